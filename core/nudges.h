@@ -1,0 +1,17 @@
+// Nudges: the offer, the three kinds of figure, the adding, the nudging.
+#pragma once
+
+#include "core/game.h"
+
+namespace hustle {
+
+void offernudges(game&);
+void nudgereel1(game&);
+void nudgereel2(game&);
+void nudgereel3(game&);
+void addnudges(game&); // ticks
+void nudgetimer(game&);
+void pseudo_nudges(game&);
+void skill_nudges(game&);
+
+} // namespace hustle

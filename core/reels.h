@@ -1,0 +1,52 @@
+// Three reels of sixteen stops.
+#pragma once
+
+#include "core/game.h"
+
+#include <array>
+
+namespace hustle {
+
+struct stop_row {
+    word symbol;
+    art picture;
+    count number; // of the number trail, 0 to 3
+};
+// The strip that all three reels carry; stop n is strip[n - 1].
+extern const std::array<stop_row, 16> strip;
+inline const stop_row& strip_stop(int position) { return strip[static_cast<std::size_t>(position - 1)]; }
+
+// The values of one reel, for routines that serve all three.
+struct reel_fields {
+    count& pos;
+    word& sym;
+    count& num;
+    word& held;
+    element picture;
+    element button;
+};
+reel_fields reel(game&, int which); // 1 to 3
+
+// Position, symbol, picture and number of a reel, all at once.
+void set_stop(game&, int which, int position);
+// Symbol and picture only: what awards show.
+void show_stop(game&, int which, int position);
+// The picture of a symbol word that was promised; nothing where the word is none of the seven.
+void show_forced(game&, int which);
+// The picture that a reel shows for a symbol word that was promised; art::none for another word.
+art forced_picture(int which, word symbol);
+// Shows the spin frames of a step on the reels of the chain `which` that are not held.
+void show_spin_frames(game&, int which, int step);
+
+void drawreel1(game&);
+void drawreel2(game&);
+void drawreel3(game&);
+void showforced1(game&);
+void showforced2(game&);
+void showforced3(game&);
+
+void reelspin1(game&); // ticks
+void reelspin2(game&);
+void reelspin3(game&);
+
+} // namespace hustle

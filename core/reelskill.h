@@ -1,0 +1,15 @@
+// Reel Skill: reel 1 stopped blind, reel 3 by eye, reel 2 by itself.
+#pragma once
+
+#include "core/game.h"
+
+namespace hustle {
+
+void start_reelskill(game&); // ticks
+void reelskill(game&);
+void reelskill2(game&);
+void reelskill3(game&);
+void reelskill_stop1(game&); // hold1 while reelskill runs
+void reelskill_stop3(game&); // hold3 while reelskill2 runs
+
+} // namespace hustle

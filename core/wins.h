@@ -1,0 +1,17 @@
+// The win table, the hold offers and the promised line.
+#pragma once
+
+#include "core/game.h"
+
+namespace hustle {
+
+bool make_pair(word, word); // the last three letters agree: a red and a blue seven pair
+void checkline(game&);
+void offerholds(game&);
+void offerdontholdany(game&);
+void spinforcedline(game&);
+void forcedstep1(game&);
+void forcedstep2(game&);
+void forcedstep3(game&);
+
+} // namespace hustle

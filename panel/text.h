@@ -1,0 +1,33 @@
+// Text of figures, made without allocating.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace hustle {
+
+// A text of at most 255 bytes that is built by adding to its end; what does not fit is dropped.
+struct short_text {
+    std::array<char, 256> data;
+    std::size_t length = 0;
+
+    short_text() {} // NOLINT: `data` is written before it is read
+    short_text(std::string_view text) { add(text); }
+    operator std::string_view() const { return {data.data(), length}; }
+    short_text& add(std::string_view text);
+    short_text& blanks(int n); // none where n is 0 or below
+};
+
+// "Fixed" form: two decimals, at least one digit before the point, no currency sign: "3.60".
+// Rounded to the nearest, halves away from zero, from the shortest decimal that stands for the
+// stored value; a result of nought has no minus sign.
+short_text fixed(float amount);
+// The shortest plain decimal that reads back to the same 32-bit value, never with an exponent:
+// "20", "0.2", "80.19802".
+short_text plain(float value);
+short_text plain(int value);
+// An amount in pounds as the UK writes it: "£1,234.50", "-£0.80".
+short_text uk_currency(float amount);
+
+} // namespace hustle

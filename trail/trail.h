@@ -1,0 +1,32 @@
+// The number trail: nine lamps, the run up to a value, the trail hold, the reset walk, and the
+// games of the stop button that place the trail.
+#pragma once
+
+#include "core/game.h"
+#include "core/upward.h" // starttrailrun, traildark
+
+namespace hustle {
+
+// Lamp n, 1 to 9.
+bool lamp_lit(const game&, int n);
+void light_lamp(game&, int n);
+void dark_lamp(game&, int n);
+void traillit(game&);
+void trailholdchance(game&);
+
+void numbers2(game&); // ticks
+void numberrun(game&);
+void trail_flash(game&);
+void init_trail_timer(game&);
+void trailclimb(game&);
+void trailskill(game&);
+void trailstopper(game&);
+void selector(game&);
+
+// What a press of the stop button does to each.
+void climb_stop(game&);
+void trailskill_stop(game&);
+void trailstopper_stop(game&);
+void selector_stop(game&);
+
+} // namespace hustle
