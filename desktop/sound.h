@@ -1,0 +1,28 @@
+// The machine's sounds on the player's speakers: the waves, one at a time, and the tune. All of it
+// runs on a thread of its own, so that neither the window nor a tick of the machine ever waits for
+// a device or a file. Where there is no device, no file or no soundfont there is silence, and no
+// message.
+#pragma once
+
+#include "panel/ids.h"
+
+#include <string>
+#include <string_view>
+
+namespace hustle::desktop {
+
+// Begins to open the sound device; `folder` holds the wave files. Returns at once, true where the
+// sound thread stands. Whether there is a device is known a little later: see sound_state.
+bool open_sound(const std::string& folder);
+// Plays a wave and returns at once; it ends the one that plays.
+void play_wave(hustle::sound wave);
+// A command for the tune: `open "PATH" type sequencer  alias mid1` loads it, `play mid1 from 0`
+// plays it once, `stop mid1` ends it, `close mid1` lets go of it. Any other is ignored.
+void tune_command(std::string_view command);
+// Ends every sound and gives the device back. Nothing happens if it was never opened.
+void close_sound();
+// One line for the player: the driver, the device if it has a name, and the rate in Hz; or
+// "no sound device". Waits up to two seconds for a device that is still being opened.
+std::string sound_state();
+
+} // namespace hustle::desktop
