@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/game.h"
+#include "core/statistics.h"
 
 namespace hustle {
 
@@ -16,12 +17,6 @@ void Highscore_return(game&); // Picture2
 void Highscore_reset(game&);  // Picture3
 void Highscore_flashscore(game&);
 void Highscore_Timer1(game&);
-
-void statistics_Timer1(game&);
-void statistics_Timer2(game&);
-void statistics_back(game&);  // Picture1
-void statistics_reset(game&); // Picture2
-void statistics_blur(game&);
 
 void reelguide_load(game&);
 void wintable_load(game&);
