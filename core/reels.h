@@ -14,7 +14,9 @@ struct stop_row {
 };
 // The strip that all three reels carry; stop n is strip[n - 1].
 extern const std::array<stop_row, 16> strip;
-inline const stop_row& strip_stop(int position) { return strip[static_cast<std::size_t>(position - 1)]; }
+inline const stop_row& strip_stop(int position) {
+    return strip[static_cast<std::size_t>(position - 1) % strip.size()];
+}
 
 // The values of one reel, for routines that serve all three.
 struct reel_fields {

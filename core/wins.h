@@ -5,7 +5,7 @@
 
 namespace hustle {
 
-bool make_pair(word, word); // the last three letters agree: a red and a blue seven pair
+bool forms_pair(word, word); // the last three letters agree: a red and a blue seven pair
 void checkline(game&);
 void offerholds(game&);
 void offerdontholdany(game&);

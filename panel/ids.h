@@ -203,9 +203,9 @@ enum class element : std::uint16_t {
     About_cmdOK,
     About_cmdSysInfo,
 
-    count,
+    total,
 };
-inline constexpr std::size_t element_count = static_cast<std::size_t>(element::count);
+inline constexpr std::size_t element_count = static_cast<std::size_t>(element::total);
 
 enum class timer : std::uint8_t {
     software_Timer1,
@@ -303,9 +303,9 @@ enum class timer : std::uint8_t {
     Highscore_Timer1,
     Entername_Timer1,
 
-    count,
+    total,
 };
-inline constexpr std::size_t timer_count = static_cast<std::size_t>(timer::count);
+inline constexpr std::size_t timer_count = static_cast<std::size_t>(timer::total);
 
 // Every picture by name. The first 103 names are the art bank; the rest is decoration that stays
 // where it is. `boxdark` and `boxlight` are 24 pictures each, one for a square of the ring.

@@ -19,17 +19,17 @@ constexpr std::array<screen_row, screen_count> screens = {{
 }};
 
 constexpr menu_row menus[] = {
-    {"Game", element::newgame},       {"Game", element::count},          {"Game", element::gstat},
-    {"Game", element::hscoretable},   {"Game", element::insertcoinmenu}, {"Game", element::count},
+    {"Game", element::newgame},       {"Game", element::total},          {"Game", element::gstat},
+    {"Game", element::hscoretable},   {"Game", element::insertcoinmenu}, {"Game", element::total},
     {"Game", element::exitgame},      {"Options", element::freelspin},   {"Options", element::sreelspin},
-    {"Options", element::rreelspin},  {"Options", element::count},       {"Options", element::ds},
-    {"Options", element::ps},         {"Options", element::count},       {"Options", element::soundon},
-    {"Options", element::soundoff},   {"Options", element::count},       {"Options", element::reddisp},
+    {"Options", element::rreelspin},  {"Options", element::total},       {"Options", element::ds},
+    {"Options", element::ps},         {"Options", element::total},       {"Options", element::soundon},
+    {"Options", element::soundoff},   {"Options", element::total},       {"Options", element::reddisp},
     {"Options", element::purpledisp}, {"Options", element::pinkdisp},    {"Options", element::bluedisp},
-    {"Options", element::yellowdisp}, {"Options", element::greendisp},   {"Options", element::count},
+    {"Options", element::yellowdisp}, {"Options", element::greendisp},   {"Options", element::total},
     {"Options", element::flon},       {"Options", element::floff},       {"Help", element::helpcontents},
-    {"Help", element::count},         {"Help", element::rguidemenu},     {"Help", element::rwinmenu},
-    {"Help", element::count},         {"Help", element::visitweb},       {"Help", element::count},
+    {"Help", element::total},         {"Help", element::rguidemenu},     {"Help", element::rwinmenu},
+    {"Help", element::total},         {"Help", element::visitweb},       {"Help", element::total},
     {"Help", element::helpabout},
 };
 

@@ -60,7 +60,7 @@ struct timer_row {
 
 struct menu_row {
     std::string_view menu; // "Game", "Options", "Help"
-    element entry;         // element::count: a separator
+    element entry;         // element::total: a separator
 };
 
 std::span<const screen_row, screen_count> screen_rows();

@@ -21,7 +21,7 @@ struct input {
         show,  // a loaded screen brought to the front
     } what;
     screen where = screen::main; // of key, close, show
-    element on = element::count; // of press, type
+    element on = element::total; // of press, type
     int code = 0;                // of key: a Windows virtual-key code
     std::string_view text = {};  // of type
 };

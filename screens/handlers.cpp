@@ -158,6 +158,18 @@ bool feature_key(game& g, int code) {
 
 } // namespace
 
+bool close_score_screen(game& g) {
+    if (is_loaded(g.p, screen::Entername)) {
+        Entername_submit(g);
+        return true;
+    }
+    if (!is_loaded(g.p, screen::Highscore) || g.m.newscore != 0 ||
+        !is_visible(g.p, element::Highscore_Picture1))
+        return false;
+    Highscore_exit(g);
+    return true;
+}
+
 const screen_routines& routines(screen s) { return screens[static_cast<std::size_t>(s)]; }
 
 handler tick_handler(timer t) { return ticks[static_cast<std::size_t>(t)]; }

@@ -1,0 +1,130 @@
+#include "core/holds.h"
+
+#include "core/bank.h"
+#include "core/nudges.h"
+#include "core/reels.h"
+#include "core/reelskill.h"
+#include "core/wins.h"
+
+#include <iterator>
+
+namespace hustle {
+
+namespace {
+
+constexpr std::string_view bad_hold_text = "     *** BAD HOLD ***";
+
+// Pressed while no credits are left, these six hold buttons begin a new game unasked.
+constexpr int hidden_sequence[] = {1, 2, 3, 3, 2, 1};
+
+void count_sequence(game& g, int which) {
+    machine& m = g.m;
+    const bool may_count = which != 1 || m.credits == 0;
+    const auto place = static_cast<std::size_t>(m.holdsequence) % std::size(hidden_sequence);
+    if (may_count && hidden_sequence[place] == which) {
+        if (++m.holdsequence < static_cast<count>(std::size(hidden_sequence)))
+            return;
+        m.holdsequence = 0;
+        startnewgame(g);
+        return;
+    }
+    m.holdsequence = may_count && which == 1 ? 1 : 0;
+}
+
+// The promise is lost, unless the hold is cancelled.
+void bad_hold(game& g, int which) {
+    machine& m = g.m;
+    reel(g, which).held = "yes";
+    set_picture(g.p, reel(g, which).button, art::holdpiclight);
+    m.holdsbarred = "False"; // neither a test for "true" nor one for "false" passes
+    m.badholdmade = "true";
+    m.linepromised = "false";
+    line(g, bad_hold_text);
+    play(g, sound::badhold);
+}
+
+void holdpress(game& g, int which) {
+    constexpr void (*nudge[])(game&) = {nudgereel1, nudgereel2, nudgereel3};
+    machine& m = g.m;
+    const bool offered = m.holdsoffered == "yes";
+    if (offered && (m.holdsbarred == "true" || m.badholdmade == "true")) {
+        bad_hold(g, which);
+        return;
+    }
+    if (m.nudges >= 1) {
+        nudge[which - 1](g);
+        return;
+    }
+    if (which == 1 && is_running(g.p, timer::reelskill)) {
+        reelskill_stop1(g);
+    } else if (which == 3 && is_running(g.p, timer::reelskill2)) {
+        reelskill_stop3(g);
+    } else if (offered && reel(g, which).held != "yes") {
+        play(g, nth(sound::hold1, which));
+        reel(g, which).held = "yes";
+        set_picture(g.p, reel(g, which).button, art::holdpiclight);
+        pairhold(g);
+    }
+    count_sequence(g, which);
+}
+
+// Exactly two reels are held, and they form a pair.
+bool pair_is_held(const machine& m) {
+    const bool one = m.reel1held == "yes";
+    const bool two = m.reel2held == "yes";
+    const bool three = m.reel3held == "yes";
+    return (one && two && !three && forms_pair(m.reel1sym, m.reel2sym)) ||
+           (one && !two && three && forms_pair(m.reel1sym, m.reel3sym)) ||
+           (!one && two && three && forms_pair(m.reel2sym, m.reel3sym));
+}
+
+} // namespace
+
+void holdpress1(game& g) { holdpress(g, 1); }
+void holdpress2(game& g) { holdpress(g, 2); }
+void holdpress3(game& g) { holdpress(g, 3); }
+
+void pairhold(game& g) {
+    machine& m = g.m;
+    if (m.holdsbarred == "true" || m.pairholds == 3) { // a third reel throws the promise away
+        line(g, bad_hold_text);
+        play(g, sound::badhold);
+        m.linepromised = "false";
+        return;
+    }
+    if (pair_is_held(m))
+        ++m.pairholds;
+    if (m.pairholds != 3)
+        return;
+    m.linepromised = "true";
+    start_timer(g.p, timer::letemspin);
+    m.holdsoffered = "yes";
+    play(g, sound::okeydoke);
+    m.holdsbarred = "false";
+}
+
+void cancelpress(game& g) {
+    machine& m = g.m;
+    if (is_running(g.p, timer::trailskill)) {
+        set_interval(g.p, timer::trailskill, interval(g.p, timer::trailskill) + 30);
+        return;
+    }
+    if (m.reel1held != "yes" && m.reel2held != "yes" && m.reel3held != "yes")
+        return;
+    set_picture(g.p, element::cancelbutton, art::cancelpicdark);
+    play(g, sound::cancel);
+    if (m.pairholds > 0) {
+        --m.pairholds;
+        m.linepromised = "false";
+    }
+    if (m.badholdmade == "true") { // a bad hold taken back: the promise returns
+        m.holdsbarred = "true";
+        m.linepromised = "true";
+        m.badholdmade = "false";
+        start_timer(g.p, timer::dontholdany);
+        play(g, sound::okeydoke);
+    }
+    m.reel1held = m.reel2held = m.reel3held = "no";
+}
+
+} // namespace hustle

@@ -1,0 +1,73 @@
+#include "core/lamps.h"
+
+#include "core/reels.h"
+
+namespace hustle {
+
+namespace {
+
+using enum element;
+
+// Light at step 1, dark at step 4.
+void slow_flash(game& g, element lamp, art dark, art light) {
+    if (g.m.lampstep == 1)
+        set_picture(g.p, lamp, light);
+    else if (g.m.lampstep == 4)
+        set_picture(g.p, lamp, dark);
+}
+
+// Dark while the stop button is live or a payout runs; alone while nudges are in hand.
+void start_lamp(game& g) {
+    if (g.m.nudges != 0)
+        return;
+    if (is_enabled(g.p, stopper) || is_running(g.p, timer::wintobank))
+        set_picture(g.p, start, art::startpicdark);
+    else if (g.m.lampstep != 1 || is_enabled(g.p, start))
+        slow_flash(g, start, art::startpicdark, art::startpiclight);
+}
+
+bool matches_another(const machine& m, int which) {
+    const bool one_two = m.reel1sym == m.reel2sym;
+    const bool one_three = m.reel1sym == m.reel3sym;
+    const bool two_three = m.reel2sym == m.reel3sym;
+    return (which != 3 && one_two) || (which != 2 && one_three) || (which != 1 && two_three);
+}
+
+// The lamp of a reel in a pair flashes three times as fast; that of a held reel stays lit.
+void hold_lamps(game& g) {
+    const int step = g.m.lampstep;
+    for (int which = 1; which <= 3; ++which) {
+        const reel_fields r = reel(g, which);
+        const bool pair_flash = r.held != "yes" && matches_another(g.m, which);
+        if (step == 1 || (pair_flash && (step == 3 || step == 5)))
+            set_picture(g.p, r.button, art::holdpiclight);
+        else if ((step == 4 && r.held != "yes") || (pair_flash && (step == 2 || step == 6)))
+            set_picture(g.p, r.button, art::holdpicdark);
+    }
+}
+
+void stopper_lamp(game& g) {
+    if (is_enabled(g.p, stopper))
+        slow_flash(g, stopper, art::stoppicdark, art::stoppiclight);
+    else
+        set_picture(g.p, stopper, art::stoppicdark);
+}
+
+} // namespace
+
+void butflash(game& g) {
+    machine& m = g.m;
+    start_lamp(g);
+    if (m.holdsoffered == "yes" && m.nudges == 0)
+        hold_lamps(g);
+    if (m.holdsoffered == "yes" && (m.reel1held == "yes" || m.reel2held == "yes" || m.reel3held == "yes"))
+        slow_flash(g, cancelbutton, art::cancelpicdark, art::cancelpiclight);
+    stopper_lamp(g);
+    if (is_running(g.p, timer::reelskill))
+        slow_flash(g, hold1, art::stoppicdark, art::stoppiclight);
+    if (is_running(g.p, timer::reelskill2))
+        slow_flash(g, hold3, art::stoppicdark, art::stoppiclight);
+    set(m.lampstep, m.lampstep >= 6 ? 1 : m.lampstep + 1);
+}
+
+} // namespace hustle

@@ -1,0 +1,202 @@
+#include "core/reels.h"
+
+#include "core/play.h"
+#include "core/wins.h"
+
+#include <algorithm>
+#include <array>
+
+namespace hustle {
+
+// clang-format off
+const std::array<stop_row, 16> strip = {{
+    {"bell",   art::cbp, 0}, // 1
+    {"pound",  art::bps, 0},
+    {"bseven", art::psb, 0},
+    {"bar",    art::sbc, 1},
+    {"cherry", art::bcm, 3}, // 5
+    {"melon",  art::cmp, 0},
+    {"pound",  art::mps, 0},
+    {"rseven", art::psc, 0},
+    {"cherry", art::scp, 3},
+    {"pound",  art::cpb, 0}, // 10
+    {"bar",    art::pbs, 1},
+    {"bseven", art::bsm, 0},
+    {"melon",  art::sms, 0},
+    {"rseven", art::msp, 2},
+    {"pound",  art::spc, 0}, // 15
+    {"cherry", art::pcb, 0},
+}};
+
+namespace {
+
+// A promised symbol is shown by these pictures; position and number stay as they were.
+struct forced_row {
+    word symbol;
+    art pictures[3];
+};
+constexpr forced_row forced[] = {
+    {"cherry", {art::bcm, art::bcm, art::bcm}},
+    {"bell",   {art::cbp, art::cbp, art::cbp}},
+    {"rseven", {art::msp, art::psc, art::psc}},
+    {"bseven", {art::psb, art::psb, art::bsm}},
+    {"pound",  {art::bps, art::bps, art::spc}},
+    {"melon",  {art::cmp, art::sms, art::sms}},
+    {"bar",    {art::pbs, art::sbc, art::pbs}},
+};
+
+// The frames effect1 to effect4 by step 1 to 8, for each chain and each reel that it turns.
+constexpr int frames[3][3][8] = {
+    {{1, 4, 3, 2, 1, 4, 3, 2}, {2, 1, 4, 3, 2, 1, 4, 3}, {3, 2, 1, 4, 3, 2, 1, 4}},
+    {{0, 0, 0, 0, 0, 0, 0, 0}, {1, 3, 2, 4, 1, 3, 2, 4}, {2, 4, 3, 1, 2, 4, 3, 1}},
+    {{0, 0, 0, 0, 0, 0, 0, 0}, {0, 0, 0, 0, 0, 0, 0, 0}, {1, 2, 3, 4, 1, 2, 3, 4}},
+};
+// clang-format on
+
+constexpr timer spin_timers[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3};
+
+bool all_alike(const machine& m) { return m.reel1sym == m.reel2sym && m.reel2sym == m.reel3sym; }
+
+void draw_stop(game& g, int which) {
+    reel(g, which).num = 0;
+    set_stop(g, which, draw(g, 16));
+}
+
+void run_over(game& g) {
+    machine& m = g.m;
+    set(m.trailvalue, m.trailvalue + m.reel1num + m.reel2num + m.reel3num);
+    afterreels(g);
+}
+
+// A reel of the play has stopped by its draw: the next free one starts, or the run is over.
+void next_reel(game& g, int stopped) {
+    if (stopped == 1 && g.m.reel2held == "no")
+        start_timer(g.p, timer::reelspin2);
+    else if (stopped <= 2 && g.m.reel3held == "no")
+        start_timer(g.p, timer::reelspin3);
+    else
+        run_over(g);
+}
+
+void draw_step(game& g, int which) {
+    constexpr void (*draws[])(game&) = {drawreel1, drawreel2, drawreel3};
+    draws[which - 1](g);
+    next_reel(g, which);
+}
+
+void forced_step(game& g, int which) {
+    constexpr void (*steps[])(game&) = {forcedstep1, forcedstep2, forcedstep3};
+    steps[which - 1](g);
+}
+
+// The end of a reel's frames.
+void stop_reel(game& g, int which) {
+    machine& m = g.m;
+    show_spin_frames(g, which, 8);
+    stop_timer(g.p, spin_timers[which - 1]);
+    play(g, sound::reelstop);
+    m.spinstep = 1;
+    if (m.linepromised == "false") {
+        draw_step(g, which);
+        return;
+    }
+    if (m.holdsbarred == "false")
+        m.linepromised = "false";
+    forced_step(g, which);
+}
+
+void spin(game& g, int which) {
+    count& step = g.m.spinstep;
+    show_spin_frames(g, which, step);
+    if (step >= 8 || (step == 4 && g.m.reelspeed != 2)) // only the slow reel goes past step 4
+        stop_reel(g, which);
+    else
+        ++step;
+}
+
+} // namespace
+
+reel_fields reel(game& g, int which) {
+    machine& m = g.m;
+    if (which == 1)
+        return {m.reel1pos, m.reel1sym, m.reel1num, m.reel1held, element::reel1, element::hold1};
+    if (which == 2)
+        return {m.reel2pos, m.reel2sym, m.reel2num, m.reel2held, element::reel2, element::hold2};
+    return {m.reel3pos, m.reel3sym, m.reel3num, m.reel3held, element::reel3, element::hold3};
+}
+
+void set_stop(game& g, int which, int position) {
+    set(reel(g, which).pos, position);
+    reel(g, which).num = strip_stop(position).number;
+    show_stop(g, which, position);
+}
+
+void show_stop(game& g, int which, int position) {
+    const stop_row& stop = strip_stop(position);
+    reel(g, which).sym = stop.symbol;
+    set_picture(g.p, reel(g, which).picture, stop.picture);
+}
+
+art forced_picture(int which, word symbol) {
+    const auto* const row = std::find_if(std::begin(forced), std::end(forced),
+                                         [symbol](const forced_row& r) { return r.symbol == symbol; });
+    return row == std::end(forced) ? art::none : row->pictures[which - 1];
+}
+
+void show_forced(game& g, int which) {
+    const art picture = forced_picture(which, reel(g, which).sym);
+    if (picture != art::none)
+        set_picture(g.p, reel(g, which).picture, picture);
+}
+
+void showforced1(game& g) { show_forced(g, 1); }
+void showforced2(game& g) { show_forced(g, 2); }
+void showforced3(game& g) { show_forced(g, 3); }
+
+void show_spin_frames(game& g, int which, int step) {
+    if (step < 1 || step > 8)
+        return;
+    for (int r = which; r <= 3; ++r)
+        if (reel(g, r).held != "yes")
+            set_picture(g.p, reel(g, r).picture, nth(art::effect1, frames[which - 1][r - 1][step - 1]));
+}
+
+// A pair held on reels 2 and 3 never wins by reel 1's draw.
+void drawreel1(game& g) {
+    machine& m = g.m;
+    if (m.reel1held != "no")
+        return;
+    do {
+        draw_stop(g, 1);
+    } while (m.reel2held == "yes" && m.reel3held == "yes" && all_alike(m));
+}
+
+void drawreel2(game& g) {
+    if (g.m.reel2held == "no")
+        draw_stop(g, 2);
+}
+
+// No free reel 3 falls into three of a kind, unless the pair has been held three plays running.
+void drawreel3(game& g) {
+    machine& m = g.m;
+    if (m.reel3held != "no")
+        return;
+    do {
+        draw_stop(g, 3);
+    } while (all_alike(m) && (m.pairholds != 3 || (m.reel1held == "no" && m.reel2held == "no")));
+}
+
+void reelspin1(game& g) {
+    if (g.m.reel1held == "no") {
+        spin(g, 1);
+        return;
+    }
+    stop_timer(g.p, timer::reelspin1);
+    g.m.spinstep = 1;
+    draw_step(g, 1);
+}
+
+void reelspin2(game& g) { spin(g, 2); }
+void reelspin3(game& g) { spin(g, 3); }
+
+} // namespace hustle
