@@ -1,0 +1,56 @@
+// The trail run: it walks the lamps up to the value that the numbers have reached.
+#include "trail/bonus.h"
+#include "trail/trail.h"
+
+namespace hustle {
+
+void starttrailrun(game& g) {
+    machine& m = g.m;
+    const bool first = m.reel1num > 0 && m.linepromised == "false";
+    if (first || m.reel2num > 0 || m.reel3num > 0) {
+        m.trailtarget = m.trailvalue;
+        start_timer(g.p, timer::numbers2);
+    } else {
+        hide(g.p, element::trailheld);
+    }
+}
+
+void fulltrail(game& g) {
+    // A line that a nudge made while the trail was walking keeps its prize.
+    if (g.m.win < 1)
+        g.m.win = 1;
+    start_timer(g.p, timer::feature_start);
+}
+
+void numbers2(game& g) {
+    machine& m = g.m;
+    panel& p = g.p;
+    const int target = m.trailtarget;
+    if (target <= 0) {
+        hide(p, element::trailheld);
+        stop_timer(p, timer::numbers2);
+        return;
+    }
+    if (m.nudges == 0)
+        play(g, sound::addtrail);
+
+    const bool full = target >= 9;
+    const int lamp = lowest_dark(g, 1, full ? 8 : target);
+    light_lamp(g, lamp);
+    if (full) {
+        if (lamp != 0)
+            return;
+        light_lamp(g, 9);
+        fulltrail(g);
+    } else if (lamp == target) {
+        if (target == 4)
+            bonuschance(g);
+        else
+            trailholdchance(g);
+    } else if (lamp != 0) {
+        return;
+    }
+    stop_timer(p, timer::numbers2);
+}
+
+} // namespace hustle
