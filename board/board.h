@@ -16,10 +16,12 @@ void lightallsquares(game&);
 void darkallsquares(game&);
 void light_cash(game&, int rung);
 void dark_cash(game&, int rung);
+bool cash_is_dark(const game&, int rung);
 void light_feature(game&, int rung);
 void dark_feature(game&, int rung);
-single cash_value(int rung); // pounds; rung 4 reads 2.40 and is worth 3.00
-int rung_of(single win);     // 0 where no rung from 1 to 9 has that value
+inline constexpr single jackpot_win = 15; // pounds: the top rung
+single cash_value(int rung);              // pounds; rung 4 reads 2.40 and is worth 3.00
+int rung_of(single win);                  // 0 where no rung from 1 to 9 has that value
 void lightcashvalue(game&);
 void fillcashladder(game&);
 void clearcashladder(game&);

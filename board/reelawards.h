@@ -27,4 +27,6 @@ void pickspin(game&);
 void winspin(game&);
 void streakspin(game&);
 
+void take_pick(game&); // On the Run ends with the prize on show
+
 } // namespace hustle

@@ -1,0 +1,101 @@
+// The buttons of the board: their looks, their flashing, and when a press of them counts.
+#include "board/boardlamps.h"
+#include "board/board.h"
+
+namespace hustle {
+
+namespace {
+
+using enum element;
+
+struct lamp {
+    element button;
+    art dark, light;
+};
+// The first seven flash with butflash.
+constexpr lamp lamps[] = {
+    {feature_startbutton, art::fstartpicdark, art::fstartpiclight},
+    {feature_collect, art::collectpicdark, art::collectpiclight},
+    {feature_exchangebutton, art::exchangepicdark, art::exchangepiclight},
+    {feature_shotbutton, art::shotspicdark, art::shotspiclight},
+    {feature_featurebutton, art::featurepicdark, art::featurepiclight},
+    {feature_cashbutton, art::cashpicdark, art::cashpiclight},
+    {feature_stopfeature, art::fstoppicdark, art::fstoppiclight},
+    {feature_hibutton, art::hipicdark, art::hipiclight},
+    {feature_lobutton, art::lopicdark, art::lopiclight},
+};
+constexpr std::size_t flashing = 7;
+
+const lamp& lamp_of(element button) {
+    for (const lamp& l : lamps)
+        if (l.button == button)
+            return l;
+    return lamps[0];
+}
+
+// With a shot's prize on offer the stop button is a start button: it fires again.
+const lamp& flash_look(const game& g, const lamp& l) {
+    static constexpr lamp fire_again = {feature_stopfeature, art::fstartpicdark, art::fstartpiclight};
+    const bool on_offer = g.m.award == "shots" && g.b.shotstate == "stop";
+    return l.button == feature_stopfeature && on_offer ? fire_again : l;
+}
+
+constexpr element turn_buttons[] = {feature_startbutton, feature_featurebutton, feature_cashbutton,
+                                    feature_shotbutton};
+
+constexpr timer chains[] = {
+    timer::feature_exchange_effect,   timer::feature_spin_dice,        timer::feature_movetimer,
+    timer::feature_cashadd,           timer::feature_featureadd,       timer::feature_exittimer,
+    timer::feature_bonus_win,         timer::feature_flashing_lights,  timer::feature_start_sevenspinner,
+    timer::feature_start_pickawin,    timer::feature_start_winspins,   timer::feature_start_winstreak,
+    timer::feature_start_reelskill,   timer::feature_start_letsspin,   timer::feature_start_shots,
+    timer::feature_start_skillstop,   timer::feature_start_randomstop, timer::feature_start_fastcash,
+    timer::feature_start_shock,       timer::feature_start_thin_ice,   timer::feature_start_boost,
+    timer::feature_start_bombfeature, timer::feature_shots_timer,      timer::feature_skillstoptimer,
+    timer::feature_randomstop,        timer::feature_moneybelttimer,   timer::feature_fastcash,
+    timer::feature_shock_timer,       timer::feature_shock_trueskill,  timer::feature_yesorno,
+    timer::feature_pickaladder,       timer::feature_savedbyextra,
+};
+
+} // namespace
+
+void show_dark(game& g, element button) { set_picture(g.p, button, lamp_of(button).dark); }
+void show_lit(game& g, element button) { set_picture(g.p, button, lamp_of(button).light); }
+
+void shut(game& g, element button) {
+    disable(g.p, button);
+    show_dark(g, button);
+}
+
+void feature_butflash(game& g) {
+    count& phase = g.b.flashstep;
+    const bool bright = phase == 1;
+    for (std::size_t i = 0; i < flashing && phase != 0; ++i) {
+        const lamp& l = flash_look(g, lamps[i]);
+        const bool held_back = l.button == feature_startbutton && g.m.award == "electricshock";
+        if (!bright)
+            set_picture(g.p, l.button, l.dark);
+        else if (is_enabled(g.p, l.button) && !held_back)
+            set_picture(g.p, l.button, l.light);
+    }
+    set(phase, bright ? 2 : 1);
+}
+
+void feature_darkbuttons(game& g) {
+    for (const element button : turn_buttons)
+        shut(g, button);
+}
+
+void feature_enablebuttons(game& g) {
+    for (const element button : turn_buttons)
+        enable(g.p, button);
+}
+
+bool board_chain_runs(const game& g) {
+    for (const timer chain : chains)
+        if (is_running(g.p, chain))
+            return true;
+    return false;
+}
+
+} // namespace hustle

@@ -1,0 +1,79 @@
+// The board says GET READY, closes with nothing in `win`, and an award on the reels takes over.
+#include "board/reelawards.h"
+
+#include "core/upward.h"
+
+namespace hustle {
+
+namespace {
+
+constexpr int last_ready_step = 22;
+
+struct handover_row {
+    std::string_view title; // at step 1
+    std::string_view text;  // at the hand-over
+    timer here, there;      // the timer of the board and that of main
+};
+// clang-format off
+constexpr handover_row sevenspinner = {"      * SEVEN SPINNER *", "      * SEVEN SPINNER *", timer::feature_start_sevenspinner, timer::start_luckysevens};
+constexpr handover_row on_the_run   = {"       * ON THE RUN *",   "       * ON THE RUN *",   timer::feature_start_pickawin,     timer::start_pickawin};
+constexpr handover_row win_spins    = {"        * WIN SPINS *",   "        * WINSPINS *",    timer::feature_start_winspins,     timer::start_winspins};
+constexpr handover_row run_for_it   = {"       * RUN FOR IT *",   "       * RUN FOR IT *",   timer::feature_start_winstreak,    timer::start_winstreak};
+constexpr handover_row reel_skill   = {"       * REEL SKILL *",   "       * REEL SKILL *",   timer::feature_start_reelskill,    timer::start_reelskill};
+// clang-format on
+
+// What the machine is told at the hand-over, beside `win`.
+using settings = void (*)(game&);
+
+void set_luckysevens(game& g) { g.m.award = "luckysevens"; }
+void set_pickawin(game& g) {
+    g.m.pickstopped = "no";
+    g.m.award = "pickawin";
+    g.m.pickspins = 8;
+}
+void set_winspins(game& g) {
+    g.m.winspinsleft = 3;
+    g.m.award = "winspins";
+    disable(g.p, element::start);
+}
+void set_winstreak(game& g) { g.m.award = "winstreak"; }
+void set_reelskill(game&) {}
+
+void ready_tick(game& g, const handover_row& row, settings tell) {
+    count& step = g.b.readystep;
+    if (step < last_ready_step) {
+        if (step == 1)
+            board_line(g, row.title);
+        get_ready_line(g, step);
+        set(step, step + 1);
+        return;
+    }
+    step = 0;
+    board_line(g, row.text);
+    g.m.win = 0;
+    tell(g);
+    stop_timer(g.p, row.here);
+    start_timer(g.p, row.there);
+    unload_screen(g, screen::feature);
+}
+
+} // namespace
+
+void get_ready_line(game& g, int step) {
+    constexpr std::string_view frames[] = {
+        "     >    GET READY    <",
+        "      >   GET READY   <",
+        "       >  GET READY  <",
+        "        > GET READY <",
+    };
+    if (step >= 10 && step < last_ready_step)
+        board_line(g, frames[(step - 10) % 4]);
+}
+
+void feature_start_sevenspinner(game& g) { ready_tick(g, sevenspinner, set_luckysevens); }
+void feature_start_pickawin(game& g) { ready_tick(g, on_the_run, set_pickawin); }
+void feature_start_winspins(game& g) { ready_tick(g, win_spins, set_winspins); }
+void feature_start_winstreak(game& g) { ready_tick(g, run_for_it, set_winstreak); }
+void feature_start_reelskill(game& g) { ready_tick(g, reel_skill, set_reelskill); }
+
+} // namespace hustle

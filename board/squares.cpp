@@ -1,0 +1,151 @@
+// What each square of the ring does when the token comes to rest on it.
+#include "board/board.h"
+
+namespace hustle {
+
+namespace {
+
+using enum element;
+
+// `n`: rungs or shots to add.
+void nothing(game&, int) {}
+
+void add_cash(game& g, int n) {
+    g.b.cashrun = 10;
+    set(g.b.cashsteps, n);
+    start_timer(g.p, timer::feature_cashadd);
+}
+
+void add_features(game& g, int n) {
+    g.b.featurerun = 10;
+    set(g.b.featuresteps, n);
+    start_timer(g.p, timer::feature_featureadd);
+}
+
+void add_shots(game& g, int n) {
+    set(g.b.shotsteps, n);
+    start_timer(g.p, timer::feature_shotadd);
+}
+
+void multi_add(game& g, int n) {
+    add_features(g, n);
+    add_cash(g, n);
+    add_shots(g, n);
+}
+
+void mystery(game& g, int) { mysterysquare(g); }
+
+void extra_life(game& g, int) {
+    show(g.p, feature_el);
+    play(g, sound::ext_life);
+}
+
+void boost(game& g, int) {
+    play(g, sound::boost);
+    disable(g.p, feature_stopfeature);
+    disable(g.p, feature_startbutton);
+    start_timer(g.p, timer::feature_start_boost);
+}
+
+void game_over(game& g, int) {
+    machine& m = g.m;
+    disable(g.p, feature_startbutton);
+    if (!is_visible(g.p, feature_el)) {
+        playgameover(g);
+        m.win = 0;
+        start_timer(g.p, timer::feature_exittimer);
+        return;
+    }
+    if (g.b.boardpos == 24)
+        m.award = "nothing";
+    start_timer(g.p, timer::feature_savedbyextra);
+}
+
+void skill_stop(game& g, int) {
+    play(g, sound::skillstop);
+    g.m.award = "skillstop";
+    start_timer(g.p, timer::feature_start_skillstop);
+}
+
+void random_stop(game& g, int) {
+    play(g, sound::skillstop);
+    g.m.award = "randomstop";
+    start_timer(g.p, timer::feature_start_randomstop);
+}
+
+void bomb(game& g, int) { lightbomb(g); }
+
+struct landing {
+    std::string_view line;
+    void (*act)(game&, int);
+    int n = 0;
+};
+// clang-format off
+constexpr landing starting = {"      * PRESS START *",     nothing};
+constexpr landing multi    = {"       * MULTI ADD *",      multi_add,    1};
+constexpr landing cash1    = {"      * ADDING CASH *",     add_cash,     1};
+constexpr landing cash2    = {"      * ADDING CASH *",     add_cash,     2};
+constexpr landing shot1    = {"      * ADDING SHOTS *",    add_shots,    1};
+constexpr landing shot2    = {"      * ADDING SHOTS *",    add_shots,    2};
+constexpr landing feature1 = {"    * ADDING FEATURES *",   add_features, 1};
+constexpr landing feature2 = {"    * ADDING FEATURES *",   add_features, 2};
+constexpr landing question = {"      *** MYSTERY ***",     mystery};
+constexpr landing life     = {"       * EXTRA LIFE *",     extra_life};
+constexpr landing boosting = {"         * BOOST *",        boost};
+constexpr landing gameover = {"     *** GAME OVER ***",    game_over};
+constexpr landing skill    = {"       * SKILL STOP *",     skill_stop};
+constexpr landing bombing  = {"       * EXTRA BOMB *",     bomb};
+constexpr landing random   = {"      * RANDOM STOP *",     random_stop};
+
+constexpr landing squares[24] = {
+    starting, multi,    cash2, shot1,    feature2, question, // 1 to 6
+    cash2,    life,     shot2, feature2, question, cash1,    // 7 to 12
+    boosting, feature1, gameover, multi, shot1,    feature1, // 13 to 18
+    skill,    bombing,  question, shot2, random,   gameover, // 19 to 24
+};
+// clang-format on
+
+} // namespace
+
+void landsquare(game& g) {
+    if (g.b.boardpos < 1 || g.b.boardpos > 24)
+        return;
+    const landing& here = squares[g.b.boardpos - 1];
+    board_line(g, here.line);
+    here.act(g, here.n);
+}
+
+void landed(game& g) {
+    if (g.m.award == "electricshock" || is_running(g.p, timer::feature_cashadd) ||
+        is_running(g.p, timer::feature_featureadd))
+        return;
+    feature_enablebuttons(g);
+}
+
+void mysterysquare(game& g) {
+    g.m.award = "electricshock";
+    board_line(g, "      *** MYSTERY ***");
+    play(g, sound::question);
+    g.b.shockpos = 0;
+    feature_darkbuttons(g);
+    start_timer(g.p, timer::feature_start_shock);
+}
+
+// Three bombs blow the safe.
+void lightbomb(game& g) {
+    panel& p = g.p;
+    const element next = shows(p, feature_bomb1, art::bombicondark)   ? feature_bomb1
+                         : shows(p, feature_bomb2, art::bombicondark) ? feature_bomb2
+                                                                      : feature_bomb3;
+    set_picture(p, next, art::bombiconlight);
+    play(g, sound::explode);
+    if (next != feature_bomb3)
+        return;
+    feature_darkbuttons(g);
+    start_timer(p, timer::feature_start_bombfeature);
+}
+
+// The draw is made even in silence.
+void playgameover(game& g) { play(g, nth(sound::gameover, draw(g, 5))); }
+
+} // namespace hustle
