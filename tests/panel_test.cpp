@@ -1,0 +1,112 @@
+#include "panel/sheet.h"
+#include "tests/testgame.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace hustle {
+namespace {
+
+TEST(Sheet, RowsStandInTheOrderOfTheirNames) {
+    std::set<std::string> names;
+    for (std::size_t i = 0; i < element_count; ++i) {
+        const element_row& r = row(static_cast<element>(i));
+        EXPECT_EQ(static_cast<std::size_t>(r.id), i) << r.name;
+        EXPECT_TRUE(names.insert(std::string(row(r.where).name) + "." + std::string(r.name)).second)
+            << r.name;
+    }
+    for (std::size_t i = 0; i < timer_count; ++i) {
+        const timer_row& r = row(static_cast<timer>(i));
+        EXPECT_EQ(static_cast<std::size_t>(r.id), i) << r.name;
+        EXPECT_GT(r.interval, 0) << r.name;
+        EXPECT_NE(tick_handler(r.id), nullptr) << r.name;
+    }
+    EXPECT_EQ(name(sound::like_it), "like-it.wav");
+    EXPECT_EQ(name(nth(art::boxlight1, 24)), "boxlight24");
+}
+
+TEST(Sheet, EveryButtonHasAnActionAndEveryElementLiesOnItsScreen) {
+    for (const screen_row& s : screen_rows())
+        for (const element_row& r : elements_of(s.id)) {
+            const bool acts = r.what == kind::button || r.what == kind::clicked || r.what == kind::push;
+            EXPECT_EQ(press_handler(r.id) != nullptr, acts) << r.name;
+            EXPECT_LE(r.place.left + r.place.width, s.width + 15) << r.name;
+            EXPECT_LE(r.place.top + r.place.height, s.height) << r.name;
+        }
+}
+
+struct ticks {
+    panel p;
+    std::vector<std::pair<timer, std::int64_t>> seen;
+
+    ticks() {
+        reset_panel(p);
+        p.loaded[static_cast<std::size_t>(screen::main)] = true;
+    }
+    void run(std::int64_t until) {
+        timer t{};
+        while (take_tick(p, until, t))
+            seen.emplace_back(t, p.now);
+    }
+};
+
+TEST(Timers, TicksThatFallTogetherComeInTheOrderOfArming) {
+    ticks run;
+    start_timer(run.p, timer::rollem);    // 150
+    start_timer(run.p, timer::reelskill); // 25
+    start_timer(run.p, timer::rollem);    // runs already: nothing changes
+    run.run(150);
+    ASSERT_EQ(run.seen.size(), 7u);
+    EXPECT_EQ(run.seen[5].first, timer::rollem) << "armed at 0, before the sixth of reelskill at 125";
+    EXPECT_EQ(run.seen[6].first, timer::reelskill);
+    EXPECT_EQ(run.seen[6].second, 150);
+}
+
+TEST(Timers, SettingAnIntervalArmsARunningTimerAnew) {
+    ticks run;
+    start_timer(run.p, timer::bonus_timer); // 200
+    run.p.now = 190;
+    set_interval(run.p, timer::bonus_timer, 150);
+    run.run(400);
+    ASSERT_EQ(run.seen.size(), 1u);
+    EXPECT_EQ(run.seen[0].second, 340);
+    set_interval(run.p, timer::rollem, 10); // a stopped one stays stopped
+    run.run(480);
+    EXPECT_EQ(run.seen.size(), 1u);
+}
+
+TEST(Timers, TicksDueDuringAWaitAreDeliveredOnceEachAfterIt) {
+    ticks run;
+    start_timer(run.p, timer::trailskill); // 60
+    start_timer(run.p, timer::yes_no);     // 105
+    run.p.now = 1000;                      // a wait has moved the clock on
+    run.run(1000);
+    ASSERT_EQ(run.seen.size(), 2u);
+    EXPECT_EQ(run.seen[0].first, timer::trailskill);
+    std::int64_t due = 0;
+    ASSERT_TRUE(next_due(run.p, due));
+    EXPECT_EQ(due, 1060);
+    stop_timer(run.p, timer::trailskill);
+    ASSERT_TRUE(next_due(run.p, due));
+    EXPECT_EQ(due, 1105);
+}
+
+TEST(Screens, TheFrontPassesToWhatLiesBeneath) {
+    testgame t;
+    EXPECT_EQ(front(t.g.p), screen::main);
+    t.g.m.awardwait = 5;
+    t.press(element::gstat);
+    EXPECT_EQ(front(t.g.p), screen::statistics);
+    EXPECT_EQ(t.g.m.awardwait, 5);
+    t.press(element::rguidemenu); // covers the statistics, which close by that
+    EXPECT_EQ(front(t.g.p), screen::reelguide);
+    EXPECT_FALSE(is_loaded(t.g.p, screen::statistics));
+    apply(t.g, {.what = input::kind::close, .where = screen::reelguide});
+    settle(t.g);
+    EXPECT_EQ(front(t.g.p), screen::main);
+    EXPECT_EQ(t.g.m.awardwait, 0) << "main has come to the front again";
+}
+
+} // namespace
+} // namespace hustle
