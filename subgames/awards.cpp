@@ -45,7 +45,7 @@ void feature_pickaladder(game& g) {
     clearcashladder(g);
     if (g.b.ladderpick == 1) {
         board_line(g, "       * FEATURES *");
-        for (int n = 1; n <= g.b.featurerung; ++n)
+        for (int n = 1; n <= g.b.featurerung && n <= 10; ++n)
             light_feature(g, n);
     } else {
         board_line(g, "         * CASH *");
