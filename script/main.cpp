@@ -1,0 +1,40 @@
+// hustlescript [FILE]: runs a panel script from a file or from standard input.
+#include "script/commands.h"
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+
+namespace {
+
+bool read_all(std::istream& from, std::string& text) {
+    text.assign(std::istreambuf_iterator<char>(from), {});
+    return !from.bad();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 2) {
+        std::cerr << "usage: hustlescript [FILE]\n";
+        return 2;
+    }
+    std::ios::sync_with_stdio(false);
+    const std::string name = argc == 2 ? argv[1] : "stdin";
+    std::string text;
+    bool read = false;
+    if (argc == 2) {
+        std::ifstream file(name, std::ios::binary);
+        read = file && read_all(file, text) && !file.fail();
+    } else {
+        read = read_all(std::cin, text);
+    }
+    if (!read) {
+        std::cerr << name << ": cannot be read\n";
+        return 2;
+    }
+    const int status = hustle::script::run_script(text, name, std::cout, std::cerr);
+    std::cout.flush();
+    return status;
+}

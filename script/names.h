@@ -1,0 +1,65 @@
+// Every name that a script can read or write: fields of the machine, properties of elements and
+// timers, screens, logs and stored files.
+#pragma once
+
+#include "panel/sheet.h"
+#include "script/scriptworld.h"
+#include "script/values.h"
+
+#include <deque>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hustle::script {
+
+struct cell {
+    std::string name;
+    slot where;
+    std::function<void(const value&)> store = {}; // what `set` does; empty: the name is only read
+    bool traced = true;                           // part of a trace and of a dump
+};
+
+// A field by its name in the script.
+using field_place = std::variant<single machine::*, count machine::*, word machine::*, std::string machine::*,
+                                 single board::*, count board::*, word board::*, single table_fields::*,
+                                 count table_fields::*, std::string table_fields::*>;
+struct field_row {
+    std::string_view name;
+    field_place where;
+};
+std::span<const field_row> field_rows();
+
+class names {
+public:
+    names(game&, scriptworld&);
+    names(const names&) = delete;
+    names& operator=(const names&) = delete;
+
+    // All names, sorted.
+    std::span<const cell> all() const { return cells; }
+    // Throws script_error for a name that there is not.
+    const cell& find(std::string_view name) const;
+
+private:
+    void add_fields(game&);
+    void add_field(std::string name, slot);
+    void add_elements(panel&);
+    void add_timers(panel&);
+    void add_screens(panel&);
+    void add_logs(scriptworld&);
+
+    std::vector<cell> cells;
+    std::deque<std::string> kept; // the texts of words that scripts have set
+};
+
+// SCREEN, SCREEN.ELEMENT; each throws script_error for a name that there is not.
+screen find_screen(std::string_view name);
+element find_element(std::string_view name);
+
+std::string full_name(element); // "main.start"
+std::string full_name(timer);   // "main.butflash"
+
+} // namespace hustle::script

@@ -1,0 +1,106 @@
+#include "script/scriptworld.h"
+
+#include "panel/sheet.h"
+#include "panel/splitmix.h"
+#include "panel/text.h"
+#include "script/lexer.h"
+
+namespace hustle::script {
+
+namespace {
+
+void append(std::string& log, std::string_view between, std::string_view entry) {
+    if (!log.empty())
+        log += between;
+    log += entry;
+}
+
+constexpr std::string_view answer_names[] = {"yes", "no", "ok"};
+
+} // namespace
+
+template <class... Words> void scriptworld::tell(const Words&... words) {
+    if (!telling)
+        return;
+    effects += "  ";
+    ((effects += words), ...);
+    effects += '\n';
+}
+
+void scriptworld::forget() {
+    sounds.clear();
+    commands.clear();
+    boxes.clear();
+    drawn = 0;
+}
+
+int scriptworld::draw(int n) {
+    int result = 0;
+    if (draws.empty()) {
+        result = splitmix_draw(generator, n);
+    } else {
+        const long long queued = draws.front();
+        if (queued < 1 || queued > n)
+            throw script_error("the queued draw " + std::to_string(queued) +
+                               " is no result of a draw of 1 to " + std::to_string(n));
+        draws.pop_front();
+        result = static_cast<int>(queued);
+    }
+    ++drawn;
+    if (telling)
+        tell("draw ", std::to_string(n), " -> ", std::to_string(result));
+    return result;
+}
+
+void scriptworld::play(sound s) {
+    append(sounds, " ", name(s));
+    tell("sound ", name(s));
+}
+
+void scriptworld::midi(std::string_view command) {
+    append(commands, ";", command);
+    tell("midi ", command);
+}
+
+bool scriptworld::box(const message& m) {
+    answer given = m.yes_or_no ? answer::no : answer::ok;
+    if (!answers.empty()) {
+        given = answers.front();
+        answers.pop_front();
+    }
+    append(boxes, ";", std::string(m.title) + "|" + std::string(m.text));
+    if (telling)
+        tell("box ", quote(m.title), " ", quote(m.text), m.yes_or_no ? " yesno -> " : " ok -> ",
+             answer_names[static_cast<std::size_t>(given)]);
+    return given != answer::no;
+}
+
+// The machine moves its own clock on.
+void scriptworld::wait(int ms) {
+    if (telling)
+        tell("wait ", std::to_string(ms));
+}
+
+std::optional<std::string> scriptworld::read(store s) {
+    if (!file(s).there)
+        return std::nullopt;
+    return file(s).text;
+}
+
+bool scriptworld::write(store s, std::string_view text) {
+    file(s) = {true, std::string(text)};
+    return true;
+}
+
+void scriptworld::set_aside(store s) { file(s) = {}; }
+
+void scriptworld::browse(page which) { tell("browse ", which == page::help ? "help" : "home"); }
+
+std::string scriptworld::currency(float amount) { return std::string(std::string_view(uk_currency(amount))); }
+
+void scriptworld::exit() {
+    ended = true;
+    tell("exit");
+}
+
+} // namespace hustle::script
