@@ -1,0 +1,74 @@
+// What the side screens ask of the world outside: pages, system information, the locale's money.
+#include "panel/stillworld.h"
+#include "screens/dispatch.h"
+
+#include "core/start.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace hustle {
+
+namespace {
+
+struct outside : stillworld {
+    std::vector<page> pages;
+    std::vector<std::string> boxes;
+    bool has_system_info = false;
+
+    void browse(page which) override { pages.push_back(which); }
+    bool system_info() override { return has_system_info; }
+    bool box(const message& m) override {
+        boxes.push_back(std::string(m.title) + "|" + std::string(m.text));
+        return true;
+    }
+    std::string currency(float) override { return "12,50 €"; }
+};
+
+struct SideScreens : testing::Test {
+    outside world;
+    game g{world};
+
+    SideScreens() {
+        reset_game(g, 0);
+        boot(g);
+        deliver(g, 350);
+        settle(g);
+    }
+    void press(element e) {
+        apply(g, {.what = input::kind::press, .on = e});
+        settle(g);
+    }
+};
+
+} // namespace
+
+TEST_F(SideScreens, OpenThePagesOfTheProgram) {
+    press(element::helpcontents);
+    press(element::visitweb);
+    apply(g, {.what = input::kind::key, .where = screen::main, .code = 112});
+    EXPECT_EQ(world.pages, (std::vector{page::help, page::home, page::help}));
+}
+
+TEST_F(SideScreens, TellWhereThereIsNoSystemInformation) {
+    press(element::helpabout);
+    press(element::About_cmdSysInfo);
+    EXPECT_EQ(world.boxes,
+              std::vector<std::string>{"Hoard Hustle|System Information Is Unavailable At This Time"});
+    world.has_system_info = true;
+    press(element::About_cmdSysInfo);
+    EXPECT_EQ(world.boxes.size(), 1U);
+}
+
+TEST_F(SideScreens, WriteMoneyAsTheSystemDoes) {
+    g.m.currency = "usd";
+    press(element::hscoretable);
+    EXPECT_EQ(caption(g.p, element::Highscore_one), "1.                 12,50 €");
+    press(element::gstat);
+    deliver(g, g.p.now + 100);
+    EXPECT_EQ(caption(g.p, element::statistics_text3), " 12,50 €");
+}
+
+} // namespace hustle
