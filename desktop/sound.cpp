@@ -22,7 +22,7 @@ namespace {
 constexpr int rate = 44100;      // Hz
 constexpr int buffer = 1024;     // sample frames: 23 ms
 constexpr int wave_volume = 112; // of 128
-constexpr int tune_volume = 64;  // of 128: the tune stays beneath the waves
+constexpr int tune_volume = 52;  // of 128: the tune stays beneath the waves
 constexpr const char* fonts[] = {
     // the first that is there plays the tune
     "/usr/share/sounds/sf2/TimGM6mb.sf2",   "/usr/share/sounds/sf2/default-GM.sf2",
@@ -97,7 +97,7 @@ bool open_device() {
         choose_soundfont();
         return true;
     }
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    SDL_Quit();
     return false;
 }
 
@@ -152,7 +152,7 @@ void close_device(mixer& m) {
             Mix_FreeChunk(wave);
     Mix_CloseAudio();
     Mix_Quit();
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    SDL_Quit();
 }
 
 void tell(std::string state, bool deaf) {

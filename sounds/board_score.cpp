@@ -41,9 +41,9 @@ constexpr phrase phrases[] = {
     {s::move,      tick,      0,   0,  30,  70, "a4"},
     {s::move,      pluck,     0,   0,  60,  80, "d5"},
 
-    {s::reelspin,  click,     0,  34,  14, 100, "d6 e6 f6 g6 a6 bb6 c7 d7 e7 f7 g7 a7 a7 a7 a7 a7 a7 a7 a7 a7 a7 a7"},
-    {s::reelspin,  tick,      0,  68,  20,  60, "d4 e4 f4 g4 a4 a4 a4 a4 a4 a4 a4"},
-    {s::reelspin,  whoosh,    0,   0, 620,  35, "d5>d6"},
+    {s::reelspin,  click,     0,  35,  14, 100, "d6 e6 f6 g6 a6 bb6 c7 d7 e7 f7 g7 a7 d7:30"},
+    {s::reelspin,  tick,      0,  70,  20,  60, "d4 e4 f4 g4 a4 bb4 d4"},
+    {s::reelspin,  whoosh,    0,   0, 330,  35, "d5>d6"},
 
     {s::add,       coin,      0,  45,  80, 100, "g6 c7"},
     {s::add,       pluck,     0,   0,  70,  60, "c5"},

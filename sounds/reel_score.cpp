@@ -15,7 +15,7 @@ constexpr phrase phrases[] = {
 
     {s::reelstop,  click,    0,   0,  16, 100, "g7"},
     {s::reelstop,  tick,     2,   0,  30,  55, "d4"},
-    {s::reelstop,  thump,    4,   0, 110, 100, "d2"},
+    {s::reelstop,  thump,    4,   0, 110, 100, "d2+d3"},
     {s::reelstop,  click,   46,   0,  10,  25, "d7"},
 
     {s::hold1,     click,    0,   0,  12,  50, "c7"},
