@@ -1,0 +1,156 @@
+// The panel script: how lines are read, what names and values are, how a script ends.
+#include "script/commands.h"
+#include "script/lexer.h"
+#include "script/session.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace hustle::script {
+namespace {
+
+struct ended {
+    int status;
+    std::string out, err;
+};
+
+ended run(std::string_view text) {
+    std::ostringstream out, err;
+    const int status = run_script(text, "s", out, err);
+    return {status, out.str(), err.str()};
+}
+
+TEST(script, reads_words_texts_and_comments) {
+    const auto w = words_of("  set\tx \"a # \\\"b\\\\\\r\\n£\" # the rest \"");
+    ASSERT_EQ(w.size(), 3U);
+    EXPECT_EQ(w[1].text, "x");
+    EXPECT_FALSE(w[1].quoted);
+    EXPECT_EQ(w[2].text, "a # \"b\\\r\n£");
+    EXPECT_EQ(written(w[2]), "\"a # \\\"b\\\\\\r\\n£\"");
+    EXPECT_TRUE(words_of("   # nothing").empty());
+    for (const char* bad : {"\"open", "\"\\t\"", "a\"b\"", "\"a\"b", "\"\xC3\"", "\xFF"})
+        EXPECT_THROW(words_of(bad), script_error) << bad;
+}
+
+TEST(script, ends_at_the_first_line_that_makes_no_sense) {
+    struct {
+        const char *line, *said;
+    } const bad[] = {
+        {"jump", "unknown command jump"},
+        {"get nothing", "unknown name nothing"},
+        {"press main.nothing", "unknown element main.nothing"},
+        {"load nowhere", "unknown screen nowhere"},
+        {"call main.rolldice", "unknown operation main.rolldice"},
+        {"set credits", "the form is: set NAME VALUE"},
+        {"set credits \"20\"", "credits takes a number, not \"20\""},
+        {"set credits 1e3", "credits takes a number, not 1e3"},
+        {"set credits ~3", "credits takes a number, not ~3"},
+        {"set nudges 1.5", "nudges takes a whole number, not 1.5"},
+        {"set nudges 40000", "nudges takes a number from -32768 to 32767, not 40000"},
+        {"set award jackpot", "award takes a text in double quotes, not jackpot"},
+        {"expect main.start.art \"title\"", "main.start.art takes the name of a picture, not \"title\""},
+        {"expect main.start.enabled yes", "main.start.enabled takes true or false, not yes"},
+        {"set front main", "front can only be read"},
+        {"set drawn 0", "drawn can only be read"},
+        {"set main.butflash.interval 0", "an interval is at least 1 ms"},
+        {"reel 4 1", "reel takes a number from 1 to 3, not 4"},
+        {"type main.start \"x\"", "main.start is no text box"},
+        {"answer perhaps", "answer takes yes, no or ok, not perhaps"},
+        {"file other.dat", "file takes game.dat or hscore.dat, not other.dat"},
+        {"file game.dat\n1\n2", "file has no end"},
+        {"draws 17\npress main.start\nuntil reel1pos 1",
+         "the queued draw 17 is no result of a draw of 1 to 16"},
+    };
+    for (const auto& [line, said] : bad) {
+        const ended e = run(std::string(line) + "\nget credits\n");
+        EXPECT_EQ(e.status, 2) << line;
+        EXPECT_NE(e.err.find(said), std::string::npos) << line << " told " << e.err;
+        EXPECT_EQ(e.out, "") << line;
+    }
+    EXPECT_EQ(run("# one\n\njump").err, "s:3: unknown command jump\n");
+    EXPECT_EQ(run("boot\nclock 5").err, "s:2: clock is only taken before the boot\n");
+    EXPECT_EQ(run("draws 17\npress main.start\nrun 9\nuntil reel1pos 1").err.substr(0, 4), "s:4:");
+}
+
+TEST(script, goes_on_after_what_does_not_hold) {
+    const ended e =
+        run("expect credits 21\nexpect credits ~20.005\nexpect front \"main\"\nexpect front main\n"
+            "until nudges 3 500\nget main.lampstep.x\n");
+    EXPECT_EQ(e.err, "s:1: expected credits = 21, found 20\ns:5: expected nudges = 3, found 0\n"
+                     "s:6: unknown name main.lampstep.x\n");
+    EXPECT_EQ(run("expect award \"x\"\nget lampstep").err, "s:1: expected award = \"x\", found \"\"\n");
+    EXPECT_EQ(run("expect award \"x\"").status, 1);
+    // A failed `until` leaves the clock where its time was over: at 850 ms butflash has ticked 5 times.
+    EXPECT_EQ(run("until nudges 3 500\nget lampstep").out, "lampstep = 5\n");
+    EXPECT_EQ(run("until lampstep 3\nuntil lampstep 3 0").status, 0);
+}
+
+TEST(script, names_are_sorted_and_each_stands_once) {
+    std::ostringstream out;
+    const session s(out);
+    const auto all = s.known.all();
+    for (std::size_t i = 1; i < all.size(); ++i)
+        EXPECT_LT(all[i - 1].name, all[i].name);
+    EXPECT_GT(all.size(), 1000U);
+}
+
+TEST(script, takes_back_every_value_that_it_dumps) {
+    const ended first = run("press main.start\nrun 9000\nload feature\nset pcent 80.19802\ndump");
+    ASSERT_EQ(first.status, 0);
+    EXPECT_NE(first.out.find("\npcent = 80.19802\n"), std::string::npos);
+    EXPECT_NE(first.out.find("\nfeature.square5.art = boxlight5\n"), std::string::npos);
+    EXPECT_NE(first.out.find("\nmain.title = \"Hoard Hustle v2.02\"\n"), std::string::npos);
+    std::ostringstream unused;
+    session s(unused);
+    std::istringstream lines(first.out);
+    std::string again = "load feature\n";
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t middle = line.find(" = ");
+        const bool settable = static_cast<bool>(s.known.find(line.substr(0, middle)).store);
+        again += (settable ? "set " : "expect ") + line.substr(0, middle) + line.substr(middle + 2) + "\n";
+    }
+    const ended second = run(again + "dump");
+    EXPECT_EQ(second.err, "");
+    EXPECT_EQ(second.out, first.out);
+}
+
+TEST(script, tells_the_way_of_the_focus) {
+    EXPECT_EQ(run("boot\ntrace on\npress main.gstat\nget front\nfocus main\nfocus main\nkey 65 main\n"
+                  "key 65 About\nclose About\npress About.cmdOK\npress main.toplogo\nunload About\n"
+                  "set credits 7\ncall main.pairhold\n")
+                  .out,
+              "@350 press main.gstat\n  front = \"statistics\"\n  statistics.Timer1.running = true\n"
+              "  statistics.Timer2.running = true\n  statistics.loaded = true\nfront = \"statistics\"\n"
+              "@350 show main\n  front = \"main\"\n@350 focus main\n@350 blur statistics\n"
+              "  statistics.Timer1.running = false\n  statistics.Timer2.running = false\n"
+              "  statistics.loaded = false\n@350 show main\n@350 key 65 main\n@350 key 65 About ignored\n"
+              "@350 close About ignored\n@350 press About.cmdOK ignored\n@350 press main.toplogo ignored\n"
+              "@350 unload About ignored\n@350 call main.pairhold\n");
+}
+
+TEST(script, keeps_logs_files_and_answers) {
+    EXPECT_EQ(run("file hscore.dat\n 1\nend x\nend\nget file.hscore.dat file.game.dat\n").out,
+              "file.hscore.dat = \"\"\nfile.game.dat = \"\"\n")
+        << "the damaged file was set aside";
+    EXPECT_EQ(run("forget\nget midi\nforget\nset bank 0\npress main.transfer\nset soundstate \"off\"\n"
+                  "press main.start\nget midi boxes sounds drawn")
+                  .out,
+              "midi = \"open \\\"sounds/hustle.mid\\\" type sequencer  alias mid1\"\nmidi = \"\"\n"
+              "boxes = \"Nothing in Bank..|You have no credits to insert!  Continue your game!\"\n"
+              "sounds = \"\"\ndrawn = 0\n");
+    EXPECT_EQ(run("trace on\nboot\nanswer yes\npress main.newgame\n").out.find("yesno -> yes") ==
+                  std::string::npos,
+              false);
+}
+
+TEST(script, holds_still_after_the_exit) {
+    const ended e = run("trace on\nclose main\nset credits 3\nrun 1000\npress main.start\nget credits\n"
+                        "until credits 3 10\n");
+    EXPECT_NE(e.out.find("  exit\n"), std::string::npos);
+    EXPECT_EQ(e.out.substr(e.out.size() - 13), "credits = 20\n") << e.out;
+    EXPECT_EQ(e.status, 1);
+}
+
+} // namespace
+} // namespace hustle::script
