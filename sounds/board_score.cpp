@@ -91,9 +91,9 @@ constexpr phrase phrases[] = {
     {s::gameover4, click,  1150,  90,  30,  60, "g6 d6"},
 
     {s::thinice,   ice,       0,   0, 520, 100, "d7"},
-    {s::thinice,   glass,   100,   0, 700,  60, "a6+bb6"},
+    {s::thinice,   glass,    30,   0, 700,  60, "a6+bb6"},
     {s::thinice,   click,     0, 170,  25,  70, "a7 f7 c8"},
-    {s::thinice,   low,     100,   0, 500,  18, "d3+eb3"},
+    {s::thinice,   low,      30,   0, 500,  18, "d3+eb3"},
 
     {s::excelent,  click,     0,   0,  30,  80, "c7"},
     {s::excelent,  bell,      0,  70, 140,  90, "c6 f6 a6 c7:420"},
