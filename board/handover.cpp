@@ -9,37 +9,39 @@ namespace {
 
 constexpr int last_ready_step = 22;
 
-struct handover_row {
-    std::string_view title; // at step 1
-    std::string_view text;  // at the hand-over
-    timer here, there;      // the timer of the board and that of main
-};
-// clang-format off
-constexpr handover_row sevenspinner = {"      * SEVEN SPINNER *", "      * SEVEN SPINNER *", timer::feature_start_sevenspinner, timer::start_luckysevens};
-constexpr handover_row on_the_run   = {"       * ON THE RUN *",   "       * ON THE RUN *",   timer::feature_start_pickawin,     timer::start_pickawin};
-constexpr handover_row win_spins    = {"        * WIN SPINS *",   "        * WINSPINS *",    timer::feature_start_winspins,     timer::start_winspins};
-constexpr handover_row run_for_it   = {"       * RUN FOR IT *",   "       * RUN FOR IT *",   timer::feature_start_winstreak,    timer::start_winstreak};
-constexpr handover_row reel_skill   = {"       * REEL SKILL *",   "       * REEL SKILL *",   timer::feature_start_reelskill,    timer::start_reelskill};
-// clang-format on
-
 // What the machine is told at the hand-over, beside `win`.
-using settings = void (*)(game&);
-
-void set_luckysevens(game& g) { g.m.award = "luckysevens"; }
-void set_pickawin(game& g) {
+void tell_luckysevens(game& g) { g.m.award = "luckysevens"; }
+void tell_pickawin(game& g) {
     g.m.pickstopped = "no";
     g.m.award = "pickawin";
     g.m.pickspins = 8;
 }
-void set_winspins(game& g) {
+void tell_winspins(game& g) {
     g.m.winspinsleft = 3;
     g.m.award = "winspins";
     disable(g.p, element::start);
 }
-void set_winstreak(game& g) { g.m.award = "winstreak"; }
-void set_reelskill(game&) {}
+void tell_winstreak(game& g) { g.m.award = "winstreak"; }
+void tell_nothing(game&) {}
 
-void ready_tick(game& g, const handover_row& row, settings tell) {
+struct handover_row {
+    std::string_view title; // at step 1
+    std::string_view text;  // at the hand-over
+    void (*tell)(game&);
+    timer here, there; // the timer of the board and that of main
+};
+constexpr handover_row sevenspinner = {"      * SEVEN SPINNER *", "      * SEVEN SPINNER *", tell_luckysevens,
+                                       timer::feature_start_sevenspinner, timer::start_luckysevens};
+constexpr handover_row on_the_run = {"       * ON THE RUN *", "       * ON THE RUN *", tell_pickawin,
+                                     timer::feature_start_pickawin, timer::start_pickawin};
+constexpr handover_row win_spins = {"        * WIN SPINS *", "        * WINSPINS *", tell_winspins,
+                                    timer::feature_start_winspins, timer::start_winspins};
+constexpr handover_row run_for_it = {"       * RUN FOR IT *", "       * RUN FOR IT *", tell_winstreak,
+                                     timer::feature_start_winstreak, timer::start_winstreak};
+constexpr handover_row reel_skill = {"       * REEL SKILL *", "       * REEL SKILL *", tell_nothing,
+                                     timer::feature_start_reelskill, timer::start_reelskill};
+
+void ready_tick(game& g, const handover_row& row) {
     count& step = g.b.readystep;
     if (step < last_ready_step) {
         if (step == 1)
@@ -51,7 +53,7 @@ void ready_tick(game& g, const handover_row& row, settings tell) {
     step = 0;
     board_line(g, row.text);
     g.m.win = 0;
-    tell(g);
+    row.tell(g);
     stop_timer(g.p, row.here);
     start_timer(g.p, row.there);
     unload_screen(g, screen::feature);
@@ -70,10 +72,10 @@ void get_ready_line(game& g, int step) {
         board_line(g, frames[(step - 10) % 4]);
 }
 
-void feature_start_sevenspinner(game& g) { ready_tick(g, sevenspinner, set_luckysevens); }
-void feature_start_pickawin(game& g) { ready_tick(g, on_the_run, set_pickawin); }
-void feature_start_winspins(game& g) { ready_tick(g, win_spins, set_winspins); }
-void feature_start_winstreak(game& g) { ready_tick(g, run_for_it, set_winstreak); }
-void feature_start_reelskill(game& g) { ready_tick(g, reel_skill, set_reelskill); }
+void feature_start_sevenspinner(game& g) { ready_tick(g, sevenspinner); }
+void feature_start_pickawin(game& g) { ready_tick(g, on_the_run); }
+void feature_start_winspins(game& g) { ready_tick(g, win_spins); }
+void feature_start_winstreak(game& g) { ready_tick(g, run_for_it); }
+void feature_start_reelskill(game& g) { ready_tick(g, reel_skill); }
 
 } // namespace hustle
