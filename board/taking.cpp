@@ -71,6 +71,8 @@ void takefeature(game& g) {
     const prize_row& row = prizes[rung - 1];
     if (!row.award.empty())
         g.m.award = row.award;
+    if (row.starts == timer::feature_moneybelttimer) // a belt that a new game broke off is forgotten
+        g.b.beltphase = g.b.beltstep = 0;
     start_timer(g.p, row.starts);
 }
 

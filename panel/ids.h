@@ -358,8 +358,8 @@ inline constexpr std::size_t timer_count = static_cast<std::size_t>(timer::total
     X(thinice) X(excelent) X(fastcash) X(shots) X(collect) X(clap)
 // clang-format on
 
-#define HUSTLE_ENUMERATOR(name) name,
-#define HUSTLE_ONE(name) +1
+#define HUSTLE_ENUMERATOR(name) name, // NOLINT(bugprone-macro-parentheses)
+#define HUSTLE_ONE(name) +1           // NOLINT(bugprone-macro-parentheses)
 enum class art : std::uint8_t { none, HUSTLE_ARTS(HUSTLE_ENUMERATOR) };
 enum class sound : std::uint8_t { HUSTLE_SOUNDS(HUSTLE_ENUMERATOR) };
 inline constexpr std::size_t art_count = 1 HUSTLE_ARTS(HUSTLE_ONE);

@@ -76,12 +76,13 @@ struct monkey {
     }
 
     void press(element e, bool answer_yes = false) {
-        if (answer_yes)
-            script.emplace_back("answer yes");
+        const std::size_t boxes = t.world.boxes.size();
         script.push_back("press " + std::string(row(row(e).where).name) + "." + std::string(row(e).name));
         const machine before = money();
         t.world.yes = answer_yes;
         t.press(e);
+        if (answer_yes && t.world.boxes.size() > boxes)
+            script.insert(script.end() - 1, "answer yes");
         const machine& m = t.g.m;
         const bool new_game = m.credits == 20 && m.bank == 0; // by the menu or by the hidden presses
         if (m.bank != before.bank && !new_game)
@@ -134,8 +135,37 @@ struct monkey {
         t.g.p.now = std::max(t.g.p.now, until);
     }
 
+    void set_field(const std::string& name, count& field, int value) {
+        set(field, value);
+        script.push_back("set " + name + " " + std::to_string(value));
+    }
+
+    // Chance alone seldom leads deep: now and then the machine is put where it may well stand.
+    void shuffle() {
+        machine& m = t.g.m;
+        if (m.holdsoffered == "yes" && m.linepromised == "false" && m.badholdmade == "false" &&
+            choose(20) == 0)
+            set_field("pairholds", m.pairholds, 2);
+        if (choose(400) == 0) {
+            m.moneyout = static_cast<single>(static_cast<int>(m.moneyin) * (60 + choose(50)) / 100);
+            script.push_back("set moneyout " + std::to_string(static_cast<int>(m.moneyout)));
+        }
+        if (m.featuremode != "feature" || !is_loaded(t.g.p, screen::feature))
+            return;
+        if (choose(20) == 0)
+            set_field("feature.featurerung", t.g.b.featurerung, 1 + choose(9));
+        if (choose(40) == 0)
+            set_field("feature.shots", t.g.b.shots, 1 + choose(12));
+        if (choose(60) == 0)
+            for (const element bomb : {element::feature_bomb1, element::feature_bomb2}) {
+                set_picture(t.g.p, bomb, art::bombiconlight);
+                script.push_back("set feature." + std::string(row(bomb).name) + ".art bombiconlight");
+            }
+    }
+
     void step() {
         const machine& m = t.g.m;
+        shuffle();
         const bool broke = m.credits <= 0.1f && m.bank <= 0.1f && m.win == 0;
         if (broke && choose(40) == 0)
             press(element::newgame, true);

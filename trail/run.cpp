@@ -1,4 +1,6 @@
 // The trail run: it walks the lamps up to the value that the numbers have reached.
+#include "core/bank.h"
+#include "core/play.h"
 #include "trail/bonus.h"
 #include "trail/trail.h"
 
@@ -21,6 +23,19 @@ void fulltrail(game& g) {
         g.m.win = 1;
     start_timer(g.p, timer::feature_start);
 }
+
+namespace {
+
+// The run to BONUS has found all lamps lit, and no Bonus comes of it. An award that left Start to
+// the Bonus would leave the player without it: the attract mode can light the lamps beneath one.
+void nowhere(game& g) {
+    if (is_enabled(g.p, element::start) || g.m.credits <= 0.1f || g.m.nudges != 0 || machine_busy(g))
+        return;
+    enable(g.p, element::start);
+    figuresline(g);
+}
+
+} // namespace
 
 void numbers2(game& g) {
     machine& m = g.m;
@@ -51,6 +66,8 @@ void numbers2(game& g) {
         return;
     }
     stop_timer(p, timer::numbers2);
+    if (lamp == 0 && target == 4)
+        nowhere(g);
 }
 
 } // namespace hustle

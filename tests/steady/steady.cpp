@@ -31,8 +31,9 @@ int play_on(hustle::game& g, int plays) {
     int made = 0;
     for (int idle = 0; made < plays && idle < 1000000; ++idle) {
         const single before = g.m.credits;
-        for (const element button : {element::hold1, element::stopper, element::feature_collect,
-                                     element::feature_stopfeature, element::feature_cashbutton, element::start})
+        for (const element button :
+             {element::hold1, element::stopper, element::feature_collect, element::feature_stopfeature,
+              element::feature_cashbutton, element::start})
             apply(g, {.what = input::kind::press, .on = button});
         settle(g);
         if (g.m.credits < before) {
