@@ -1,0 +1,85 @@
+#include "desktop/session.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr const char* help_text =
+    "Hoard Hustle: a simulation of a UK fruit machine with a 15 pound jackpot.\n"
+    "\n"
+    "  hoardhustle            starts the machine\n"
+    "  hoardhustle --version  tells the version\n"
+    "  hoardhustle --help     tells this\n"
+    "\n"
+    "HUSTLE_DATA=FOLDER  where game.dat and hscore.dat stand\n"
+    "HUSTLE_SEED=N       draws that repeat from run to run\n";
+
+constexpr const char* no_display =
+    "Hoard Hustle needs a screen to play on, and there is none here.\n"
+    "Start it from a desktop session, or set DISPLAY to an X server; over ssh, use ssh -X.\n";
+
+bool has_display() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (const char* value = std::getenv(name); value != nullptr && *value != '\0')
+            return true;
+    return false;
+#else
+    return true;
+#endif
+}
+
+// The toolkit ends a program that cannot reach its screen with a core dump; a word is better.
+void tell_message(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::fputs(no_display, stderr);
+        std::fprintf(stderr, "(%s)\n", qPrintable(text.simplified()));
+        std::_Exit(1);
+    }
+    if (type == QtCriticalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+// Negative: go on and play. Otherwise the exit status.
+int read_arguments(int count, char** arguments) {
+    for (int i = 1; i < count; ++i) {
+        if (std::strcmp(arguments[i], "--version") == 0) {
+            std::printf("hoardhustle %s\n", hustle::version_text.data());
+            return 0;
+        }
+        if (std::strcmp(arguments[i], "--help") == 0) {
+            std::fputs(help_text, stdout);
+            return 0;
+        }
+        std::fprintf(stderr, "hoardhustle: unknown argument %s; --help tells what there is\n", arguments[i]);
+        return 2;
+    }
+    return -1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const int status = read_arguments(argc, argv);
+    if (status >= 0)
+        return status;
+    if (!has_display()) {
+        std::fputs(no_display, stderr);
+        return 1;
+    }
+    qInstallMessageHandler(tell_message);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("hoardhustle");
+    QApplication::setApplicationDisplayName("Hoard Hustle");
+    QApplication::setDesktopFileName("hoardhustle");
+    QApplication::setQuitOnLastWindowClosed(false);
+    hustle::desktop::session session;
+    hustle::desktop::start_session(session);
+    const int result = session.g.p.over ? 0 : QApplication::exec();
+    hustle::desktop::end_session(session);
+    return result;
+}

@@ -1,0 +1,128 @@
+#include "desktop/mainwindow.h"
+
+#include "desktop/keys.h"
+#include "desktop/session.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+namespace hustle::desktop {
+
+namespace {
+
+QString words(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Each entry of a menu gets the first of its letters that no other one has.
+QString with_mnemonic(QString caption, QString& taken) {
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        const QChar letter = caption[i].toLower();
+        if (!letter.isLetter() || taken.contains(letter))
+            continue;
+        taken += letter;
+        return caption.insert(i, '&');
+    }
+    return caption;
+}
+
+} // namespace
+
+mainwindow::mainwindow(session& s) : machine(s), stack(new QStackedWidget(this)) {
+    on_main = new screenview(s, hustle::screen::main, stack);
+    stack->addWidget(on_main);
+    stack->setMinimumSize(400, 281);
+    setCentralWidget(stack);
+    make_menus();
+}
+
+screenview& mainwindow::board_view() {
+    if (on_board == nullptr) {
+        on_board = new screenview(machine, hustle::screen::feature, stack);
+        stack->addWidget(on_board);
+        on_board->resize(stack->size());
+    }
+    return *on_board;
+}
+
+void mainwindow::make_menus() {
+    QMenu* menu = nullptr;
+    std::string_view title;
+    QString taken;
+    for (const menu_row& r : menu_rows()) {
+        if (menu == nullptr || r.menu != title) {
+            title = r.menu;
+            menu = menuBar()->addMenu("&" + words(title));
+            taken.clear();
+        }
+        if (r.entry == element::total) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(with_mnemonic(words(row(r.entry).text), taken));
+        action->setCheckable(title == "Options");
+        QObject::connect(action, &QAction::triggered, this, [this, e = r.entry] {
+            send(machine, {input::kind::press, hustle::screen::main, e});
+            refresh_menus(); // the toolkit has moved the tick by itself
+        });
+        entries.emplace_back(r.entry, action);
+    }
+}
+
+void mainwindow::refresh_menus() {
+    for (const auto& [e, action] : entries) {
+        element_state& state = at(machine.g.p, e);
+        state.touched = false;
+        action->setEnabled(state.enabled);
+        action->setVisible(state.visible);
+        if (action->isCheckable())
+            action->setChecked(state.checked);
+    }
+}
+
+screen mainwindow::shown_screen() const {
+    return is_loaded(machine.g.p, hustle::screen::feature) ? hustle::screen::feature : hustle::screen::main;
+}
+
+void mainwindow::refresh() {
+    const panel& p = machine.g.p;
+    for (const auto& [e, action] : entries)
+        if (at(p, e).touched) {
+            refresh_menus();
+            break;
+        }
+    screenview* view = shown_screen() == hustle::screen::feature ? &board_view() : on_main;
+    if (stack->currentWidget() != view) {
+        stack->setCurrentWidget(view);
+        view->setFocus(Qt::OtherFocusReason);
+        view->update();
+    }
+    const QString title = QString::fromStdString(p.titles[static_cast<std::size_t>(shown_screen())]);
+    if (windowTitle() != title)
+        setWindowTitle(title);
+    view->refresh();
+}
+
+bool mainwindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate)
+        activated(machine, shown_screen());
+    return QMainWindow::event(event);
+}
+
+// Only the machine's own way out ends the program; the board has none.
+void mainwindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    send(machine, {input::kind::close, shown_screen()});
+}
+
+// Keys reach the machine whatever has the focus in its window.
+void mainwindow::keyPressEvent(QKeyEvent* event) {
+    const int code = event->isAutoRepeat() ? 0 : machine_key(*event);
+    if (code != 0)
+        send(machine, {input::kind::key, shown_screen(), element::total, code});
+    else
+        event->ignore();
+}
+
+} // namespace hustle::desktop

@@ -1,0 +1,41 @@
+// The window of main and of the feature board, with the menu bar.
+#pragma once
+
+#include "desktop/screenview.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QStackedWidget>
+
+#include <vector>
+
+namespace hustle::desktop {
+
+class mainwindow : public QMainWindow {
+public:
+    explicit mainwindow(session&);
+
+    // Shows main or the board, and brings the menu's ticks and the picture up to date.
+    void refresh();
+    hustle::screen shown_screen() const;
+    screenview& main_view() { return *on_main; }
+    // The board's view, made at the first call.
+    screenview& board_view();
+
+protected:
+    bool event(QEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+private:
+    void make_menus();
+    void refresh_menus();
+
+    session& machine;
+    QStackedWidget* stack;
+    screenview* on_main;
+    screenview* on_board = nullptr;
+    std::vector<std::pair<element, QAction*>> entries;
+};
+
+} // namespace hustle::desktop

@@ -1,0 +1,79 @@
+#include "desktop/pictures.h"
+
+#include "art/art.h"
+
+#include <QByteArray>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace hustle::desktop {
+
+namespace {
+
+using enum element;
+
+constexpr coming_art main_arts[] = {
+    {art::holdpicdark, art::cancelpiclight, hold1},
+    {art::startpicdark, art::startpiclight, start},
+    {art::nudgenowpicdark, art::nudgenowpiclight, nudgenow},
+    {art::effect1, art::effect4, reel1},
+    {art::cbp, art::pcb, reel1},
+    {art::nudge0, art::nudge12345, picture1},
+    {art::trailheldpic, art::trailheldpic, trailheld},
+    {art::title, art::title2, toplogo},
+};
+constexpr coming_art feature_arts[] = {
+    {art::dice1pic, art::spineffect4, feature_dicepic},
+    {art::fstoppicdark, art::exchangepiclight, feature_startbutton},
+    {art::hipicdark, art::lopiclight, feature_hibutton},
+    {art::bombicondark, art::bombiconlight, feature_bomb1},
+    {art::title, art::title2, feature_toplogo},
+    {art::boxdark1, art::boxlight24, feature_square1},
+};
+
+quint64 key(art a, QSize size) {
+    return (static_cast<quint64>(a) << 48) | (static_cast<quint64>(size.width()) << 24) |
+           static_cast<quint64>(size.height());
+}
+
+QPixmap draw(art a, QSize size) {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    const std::string text = svg(a);
+    QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    return pixmap;
+}
+
+} // namespace
+
+const QPixmap& picture(picture_store& store, art a, QSize size) {
+    const auto sharp = store.sharp.constFind(key(a, size));
+    if (sharp != store.sharp.cend())
+        return *sharp;
+    if (store.settling) {
+        const auto old = store.latest.constFind(static_cast<int>(a));
+        if (old != store.latest.cend())
+            return *old;
+    }
+    store.latest.insert(static_cast<int>(a), draw(a, size));
+    return *store.sharp.insert(key(a, size), store.latest.value(static_cast<int>(a)));
+}
+
+void begin_settling(picture_store& store) {
+    store.settling = true;
+    store.sharp.clear();
+}
+
+std::span<const coming_art> coming_arts(screen s) {
+    if (s == screen::main)
+        return main_arts;
+    if (s == screen::feature)
+        return feature_arts;
+    return {};
+}
+
+} // namespace hustle::desktop

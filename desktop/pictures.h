@@ -1,0 +1,35 @@
+// The art, drawn once from its SVG text at exactly the size it has on the screen, in device
+// pixels, and kept until the size of the view changes.
+#pragma once
+
+#include "panel/sheet.h"
+
+#include <QHash>
+#include <QPixmap>
+#include <QSize>
+
+#include <span>
+
+namespace hustle::desktop {
+
+struct picture_store {
+    QHash<quint64, QPixmap> sharp; // by art and size
+    QHash<int, QPixmap> latest;    // by art, whatever its size
+    // While a window is being dragged to another size, pictures of the old one are good enough.
+    bool settling = false;
+};
+
+// A picture at a size in device pixels. While the store is settling it may have another size.
+const QPixmap& picture(picture_store&, art, QSize device_pixels);
+// Forgets what was drawn for another size.
+void begin_settling(picture_store&);
+
+// Pictures that an element of a screen may show later on: drawn ahead in idle moments, so that
+// the first spin does not stutter.
+struct coming_art {
+    art first, last;
+    element on;
+};
+std::span<const coming_art> coming_arts(screen);
+
+} // namespace hustle::desktop

@@ -1,0 +1,43 @@
+// The window's side of the machine's contract with the world.
+#pragma once
+
+#include "panel/world.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace hustle::desktop {
+
+struct session;
+
+struct qtworld : world {
+    session* s = nullptr;
+    QString data;             // folder of the two stored files
+    QString sounds;           // folder of the waves and the tune
+    std::uint64_t state = 0;  // of the generator
+    bool repeats = false;     // the state was given: the clock is kept out of the draws
+    bool heard = false;       // the sound has been opened
+    std::string tune_opening; // the open command, kept until then
+
+    int draw(int n) override;
+    void play(sound) override;
+    void midi(std::string_view command) override;
+    std::string tune_path() override;
+    bool box(const message&) override;
+    void wait(int ms) override;
+    std::optional<std::string> read(store) override;
+    bool write(store, std::string_view text) override;
+    void set_aside(store) override;
+    void browse(page) override;
+    bool system_info() override;
+    std::string currency(float amount) override;
+    void exit() override;
+};
+
+// Finds the folders and the generator's first state: HUSTLE_SEED where it is set, else chance.
+void prepare_world(qtworld&);
+// Opens the sound, once; called after the first painted frame.
+void open_ears(qtworld&);
+
+} // namespace hustle::desktop

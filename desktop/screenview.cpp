@@ -1,0 +1,277 @@
+#include "desktop/screenview.h"
+
+#include "desktop/colours.h"
+#include "desktop/keys.h"
+#include "desktop/session.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace hustle::desktop {
+
+namespace {
+
+constexpr int settle_ms = 150; // after the last change of size pictures are drawn sharp again
+constexpr int twips_to_pixel = 15;
+
+bool takes_mouse(const element_row& r) {
+    return r.what == kind::button || r.what == kind::clicked || r.what == kind::push;
+}
+
+// A text box that the player writes in; the others only show.
+bool is_edited(element e) { return e == element::Entername_Text1; }
+
+input pressed(element e) { return {input::kind::press, row(e).where, e}; }
+
+} // namespace
+
+screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
+    : QWidget(parent), machine(s), what(shown) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    drawn.resize(elements_of(what).size());
+    settled.setSingleShot(true);
+    QObject::connect(&settled, &QTimer::timeout, this, [this] {
+        pictures.settling = false;
+        pictures.latest.clear();
+        next_group = 0;
+        next_in_group = 0;
+        update();
+        draw_ahead(machine);
+    });
+    make_text_boxes();
+}
+
+QSize screenview::panel_size() const {
+    return {row(what).width / twips_to_pixel, row(what).height / twips_to_pixel};
+}
+
+// The screen stands in the middle of the widget, as large as it fits.
+void screenview::measure() {
+    const QSize whole = size() * devicePixelRatioF();
+    const double width = row(what).width / static_cast<double>(twips_to_pixel);
+    const double height = row(what).height / static_cast<double>(twips_to_pixel);
+    scale = std::min(whole.width() / width, whole.height() / height);
+    origin = {static_cast<int>((whole.width() - width * scale) / 2),
+              static_cast<int>((whole.height() - height * scale) / 2)};
+}
+
+// The size does not hang on the place, so that one drawing serves all elements of one size.
+QRect screenview::device_rect(element e) const {
+    const hustle::rect& place = row(e).place;
+    const double twip = scale / twips_to_pixel;
+    const auto pixels = [twip](int twips) { return static_cast<int>(std::lround(twips * twip)); };
+    return {origin.x() + pixels(place.left), origin.y() + pixels(at(machine.g.p, e).top),
+            std::max(1, pixels(place.width)), std::max(1, pixels(place.height))};
+}
+
+QRect screenview::widget_rect(element e) const {
+    const QRect device = device_rect(e);
+    const double ratio = devicePixelRatioF();
+    return QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio, device.height() / ratio)
+        .toAlignedRect();
+}
+
+QRect screenview::dirty_rect(element e) const {
+    if (!is_lamp(row(e)))
+        return widget_rect(e);
+    const int reach = static_cast<int>(std::ceil(glow_reach * scale / devicePixelRatioF())) + 1;
+    return widget_rect(e).adjusted(-reach, -reach, reach, reach);
+}
+
+void screenview::refresh() {
+    std::size_t index = 0;
+    for (const element_row& r : elements_of(what)) {
+        QRect& before = drawn[index++];
+        element_state& state = at(machine.g.p, r.id);
+        if (!state.touched || r.what == kind::entry)
+            continue;
+        state.touched = false;
+        const QRect now = dirty_rect(r.id);
+        update(before == now ? now : before.united(now));
+        before = now;
+        tell_changed(spoken, *this, r.id);
+    }
+    for (const auto& [e, box] : text_boxes) {
+        const QString text = QString::fromStdString(at(machine.g.p, e).text);
+        if (box->text() != text)
+            box->setText(text);
+    }
+}
+
+void screenview::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.fillRect(event->rect(), ground_colour());
+    const double ratio = devicePixelRatioF();
+    painter.scale(1 / ratio, 1 / ratio);
+    canvas c{painter, pictures, dots, scale};
+    const panel& p = machine.g.p;
+    const auto rows = elements_of(what);
+    bool glowed = false;
+    for (const element_row& r : rows) {
+        if (!event->region().intersects(dirty_rect(r.id)))
+            continue;
+        if (r.what == kind::label && !glowed) { // all glow lies beneath all lamps
+            for (const element_row& other : rows)
+                if (event->region().intersects(dirty_rect(other.id)))
+                    draw_glow(c, p, other.id, device_rect(other.id));
+            glowed = true;
+        }
+        if (!is_edited(r.id))
+            draw_element(c, p, r.id, device_rect(r.id), r.id == held);
+    }
+    has_painted = true;
+    if (!machine.seen) {
+        machine.seen = true;
+        first_painted(machine);
+    }
+}
+
+void screenview::resizeEvent(QResizeEvent*) {
+    measure();
+    if (has_painted) {
+        begin_settling(pictures);
+        settled.start(settle_ms);
+    }
+    dots.grounds.clear();
+    place_children();
+    std::size_t index = 0;
+    for (const element_row& r : elements_of(what))
+        drawn[index++] = dirty_rect(r.id);
+}
+
+bool screenview::draw_one_ahead() {
+    const auto groups = coming_arts(what);
+    while (next_group < groups.size()) {
+        const coming_art& group = groups[next_group];
+        const int count = static_cast<int>(group.last) - static_cast<int>(group.first) + 1;
+        if (next_in_group >= count) {
+            ++next_group;
+            next_in_group = 0;
+            continue;
+        }
+        art a = nth(group.first, ++next_in_group);
+        if (machine.g.p.dollars)
+            a = dollar_version(a);
+        const auto before = pictures.sharp.size();
+        picture(pictures, a, device_rect(group.on).size());
+        if (pictures.sharp.size() != before)
+            return true;
+    }
+    return false;
+}
+
+element screenview::under(QPoint point) const {
+    element found = element::total;
+    for (const element_row& r : elements_of(what))
+        if (takes_mouse(r) && is_visible(machine.g.p, r.id) && widget_rect(r.id).contains(point))
+            found = r.id;
+    return found;
+}
+
+void screenview::set_held(element e) {
+    if (held != element::total)
+        update(widget_rect(held));
+    held = e;
+    if (held != element::total)
+        update(widget_rect(held));
+}
+
+void screenview::mousePressEvent(QMouseEvent* event) {
+    const element e = under(event->position().toPoint());
+    if (e == element::total)
+        return;
+    const bool acts_at_once = row(e).what == kind::button;
+    if (!acts_at_once && event->button() != Qt::LeftButton)
+        return;
+    if (is_enabled(machine.g.p, e))
+        set_held(e);
+    if (acts_at_once)
+        send(machine, pressed(e));
+}
+
+void screenview::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void screenview::mouseReleaseEvent(QMouseEvent* event) {
+    const element e = held;
+    set_held(element::total);
+    if (e != element::total && row(e).what != kind::button && under(event->position().toPoint()) == e)
+        send(machine, pressed(e));
+}
+
+void screenview::mouseMoveEvent(QMouseEvent* event) {
+    const element e = under(event->position().toPoint());
+    const bool live = e != element::total && is_enabled(machine.g.p, e);
+    const Qt::CursorShape shape = live ? Qt::PointingHandCursor : Qt::ArrowCursor;
+    if (cursor().shape() != shape)
+        setCursor(shape);
+}
+
+void screenview::keyPressEvent(QKeyEvent* event) {
+    const int code = event->isAutoRepeat() ? 0 : machine_key(*event);
+    if (code != 0) {
+        send(machine, {input::kind::key, what, element::total, code});
+        return;
+    }
+    const bool may_leave =
+        isWindow() && what != hustle::screen::software && what != hustle::screen::Entername;
+    if (event->key() == Qt::Key_Escape && may_leave)
+        close();
+    else
+        event->ignore();
+}
+
+// The machine decides whether a window closes; it is taken away when its screen is unloaded.
+void screenview::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    send(machine, {input::kind::close, what});
+}
+
+bool screenview::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && isWindow())
+        activated(machine, what);
+    return QWidget::event(event);
+}
+
+void screenview::make_text_boxes() {
+    for (const element_row& r : elements_of(what)) {
+        if (!is_edited(r.id))
+            continue;
+        auto* box = new QLineEdit(this);
+        box->setAccessibleName("Your name");
+        box->setText(QString::fromStdString(at(machine.g.p, r.id).text));
+        box->selectAll();
+        box->setStyleSheet("QLineEdit { background: #0e0b12; color: #ffe8be; border: 2px solid #d4b060;"
+                           " border-radius: 4px; padding: 0 4px; selection-background-color: #84508c; }");
+        QObject::connect(box, &QLineEdit::textEdited, this, [this, e = r.id](const QString& text) {
+            const std::string typed = text.toStdString();
+            send(machine, {input::kind::type, what, e, 0, typed});
+        });
+        setFocusProxy(box);
+        text_boxes.emplace_back(r.id, box);
+    }
+}
+
+void screenview::place_children() {
+    for (const auto& [e, box] : text_boxes) {
+        box->setGeometry(widget_rect(e));
+        QFont font = box->font();
+        font.setBold(true);
+        font.setPixelSize(std::max(6, static_cast<int>(box->height() * 0.5)));
+        box->setFont(font);
+    }
+    place_spoken(spoken, *this);
+}
+
+void screenview::speak() { make_spoken(spoken, *this); }
+
+} // namespace hustle::desktop

@@ -1,0 +1,73 @@
+// The one widget that draws any screen of the panel from its tables, scaled to its size with the
+// aspect kept, and gives the mouse and the keyboard to the machine.
+#pragma once
+
+#include "desktop/painting.h"
+#include "desktop/spokenviews.h"
+
+#include <QLineEdit>
+#include <QTimer>
+#include <QWidget>
+
+#include <vector>
+
+namespace hustle::desktop {
+
+struct session;
+
+class screenview : public QWidget {
+public:
+    screenview(session&, hustle::screen, QWidget* parent = nullptr);
+
+    // Repaints what has changed since the last time.
+    void refresh();
+    // Makes the children that a screen reader and the Tab key find; once.
+    void speak();
+    // Draws one picture that is likely to be needed; false when all are there.
+    bool draw_one_ahead();
+    hustle::screen shown_screen() const { return what; }
+    bool painted() const { return has_painted; }
+    // The size of the screen in panel pixels.
+    QSize panel_size() const;
+
+    // The place of an element in device pixels, and in the widget's own.
+    QRect device_rect(element) const;
+    QRect widget_rect(element) const;
+
+    session& machine;
+
+protected:
+    bool event(QEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+
+private:
+    void measure();
+    QRect dirty_rect(element) const;
+    element under(QPoint) const;
+    void make_text_boxes();
+    void place_children();
+    void set_held(element);
+
+    const hustle::screen what;
+    double scale = 1; // device pixels to a panel pixel
+    QPoint origin;    // device pixels
+    picture_store pictures;
+    dot_store dots;
+    QTimer settled;
+    element held = element::total; // the button under a mouse key that is down
+    std::vector<std::pair<element, QLineEdit*>> text_boxes;
+    spoken_views spoken;
+    std::vector<QRect> drawn; // where each element was last drawn, widget pixels
+    std::size_t next_group = 0;
+    int next_in_group = 0;
+    bool has_painted = false;
+};
+
+} // namespace hustle::desktop

@@ -1,0 +1,66 @@
+// One machine in its windows: the record that ties the game to the real clock and to what is on
+// the screen, and the few functions that move it on.
+//
+// The machine's clock follows the real one. It stands while a message box is open, and after a
+// stall it goes on from where it was: ticks that were missed are not made up for in a burst.
+#pragma once
+
+#include "desktop/qtworld.h"
+#include "screens/dispatch.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <array>
+
+namespace hustle::desktop {
+
+class mainwindow;
+class screenview;
+
+struct session {
+    qtworld world;
+    game g{world};
+
+    QElapsedTimer real;
+    qint64 behind = 0; // ms that the machine's clock is behind `real`
+    int held = 0;      // above 0 while a box or a blocking wait holds the machine
+    bool started = false;
+    bool seen = false; // something has been painted
+    QTimer wake;       // the next tick
+    QTimer ahead;      // draws pictures that will be needed, one at a time
+
+    mainwindow* window = nullptr;                 // of main and of the board
+    std::array<screenview*, screen_count> side{}; // windows of the other screens, null while closed
+    screen in_front = screen::software;           // as the windows last had it
+};
+
+// Boots the machine into its windows; its clock starts with the first painted frame.
+void start_session(session&);
+// A view has been painted for the first time in this session: now the clock may start.
+void first_painted(session&);
+// Closes what is still open.
+void end_session(session&);
+
+// Brings the machine up to the clock and applies one input. Nothing happens while it is held.
+void send(session&, const input&);
+// A window has been activated by the player.
+void activated(session&, screen);
+
+// Brings the windows into step with the panel.
+void refresh(session&);
+// Draws coming pictures again, after a change of size.
+void draw_ahead(session&);
+
+// While one of these lives no tick is delivered and no input taken.
+struct hold_machine {
+    session& s;
+    qint64 since; // real ms
+    explicit hold_machine(session&);
+    hold_machine(const hold_machine&) = delete;
+    hold_machine& operator=(const hold_machine&) = delete;
+    // The clock goes on from where it was, but for `counted` ms that the machine adds by itself.
+    void release(int counted);
+};
+
+} // namespace hustle::desktop
