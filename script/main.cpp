@@ -35,6 +35,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     const int status = hustle::script::run_script(text, name, std::cout, std::cerr);
-    std::cout.flush();
+    if (!std::cout.flush()) {
+        std::cerr << "standard output cannot be written\n";
+        return 2;
+    }
     return status;
 }

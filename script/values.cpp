@@ -12,6 +12,7 @@ namespace hustle::script {
 namespace {
 
 template <class... Readers> struct each : Readers... { using Readers::operator()...; };
+template <class... Readers> each(Readers...) -> each<Readers...>;
 
 [[noreturn]] void wrong(std::string_view what, std::string_view takes, const token& t) {
     throw script_error(std::string(what) + " takes " + std::string(takes) + ", not " + written(t));
