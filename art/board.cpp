@@ -18,7 +18,7 @@ void recess(pen& p, area a, double round) {
 
 void lamp_sign(pen& p, std::string_view words, const ink::jewel& j) {
     cap(p, {4, 4, 113, 25}, 8, j, true, 4);
-    cap_words(p, words, 60.5, 9.5, 14, 96, j, true);
+    cap_words(p, words, 60.5, 16.5, 14, 96, j, true);
 }
 
 } // namespace
@@ -27,20 +27,12 @@ void draw_ring_centre(pen& p, int) {
     const auto vault = halo(p, {{0, "#5a2a80"}, {0.5, "#2c1050"}, {1, "#0e0424"}}, 160, 130, 210);
     box(p, 0, 0, 320, 279, 10, {.fill = gold(p), .stroke = "#1a0a04", .width = 1});
     box(p, 4, 4, 312, 271, 7, {.fill = vault, .stroke = "#1a0a04", .width = 1.5});
-    // the round door of the vault behind the chest
-    for (const auto& [r, colour, strength] :
-         {std::tuple(118.0, "#000000", 0.35), std::tuple(112.0, "#6a5a8a", 0.5),
-          std::tuple(104.0, "#241040", 1.0)})
-        disc(p, 160, 122, r, {.fill = colour, .fill_opacity = strength});
-    disc(p, 160, 122, 112, {.stroke = gold(p), .width = 4});
-    for (int i = 0; i < 24; ++i) {
-        const moved bolt(p, 160, 122, 1, i * 15);
-        disc(p, 0, -108, 2.6, {.fill = "#e8b850", .stroke = "#3a1a02", .width = 0.7});
-    }
+    for (const double r : {78.0, 100.0, 122.0})
+        disc(p, 160, 130, r, {.stroke = "#ffc45a", .width = 1, .stroke_opacity = 0.14});
     for (int i = 0; i < 12; ++i) {
-        const moved ray(p, 160, 122, 1, i * 30);
-        path(p, polygon({{0, 0}, {-12, -100}, {12, -100}}),
-             {.fill = halo(p, {{0, "#ffc83c", 0.5}, {1, "#ffc83c", 0}}, 0, 0, 102)});
+        const moved ray(p, 160, 130, 1, i * 30);
+        path(p, polygon({{0, 0}, {-14, -124}, {14, -124}}),
+             {.fill = halo(p, {{0, "#ffc83c", 0.5}, {1, "#ffc83c", 0}}, 0, 0, 126)});
     }
     {
         const moved here(p, 161, 184, 0.98);
@@ -52,14 +44,13 @@ void draw_ring_centre(pen& p, int) {
            .edge_width = 2.4,
            .shape = {.weight = 0.2, .stretch = 1.15}});
     for (const area& a :
-         {area{12, 46, 81, 29}, area{12, 94, 81, 29}, area{12, 142, 57, 45}, area{12, 190, 81, 29},
-          area{227, 46, 81, 29}, area{243, 94, 65, 29}, area{235, 142, 73, 29}, area{235, 190, 73, 29}})
+         {area{14, 46, 77, 29}, area{14, 94, 77, 29}, area{14, 142, 53, 45}, area{14, 190, 77, 29},
+          area{230, 46, 77, 29}, area{246, 94, 61, 29}, area{238, 142, 69, 29}, area{238, 190, 69, 29}})
         recess(p, a, 6);
-    box(p, 66, 210, 188, 61, 9, {.fill = gold(p), .stroke = "#1a0a04", .width = 1});
-    box(p, 69, 213, 182, 55, 7,
-        {.fill = down(p, {{0, "#1c0610"}, {1, "#4a0c14"}}), .stroke = "#1a0a04", .width = 1});
-    for (const double x : {80.0, 136.0, 192.0})
-        recess(p, {x - 3, 215, 47, 51}, 6);
+    moulding(p, {77, 221, 160, 46}, 4, 5);
+    box(p, 77, 221, 160, 46, 5, {.fill = down(p, {{0, "#1c0610"}, {1, "#4a0c14"}})});
+    for (const double x : {128.5, 184.5})
+        line(p, x, 225, x, 263, {.stroke = "#d8a03c", .width = 1, .stroke_opacity = 0.6});
     for (const double x : {32.0, 288.0}) {
         const moved here(p, x, 248, 0.75);
         gem(p, x < 160 ? ink::ruby : ink::emerald);
@@ -67,7 +58,7 @@ void draw_ring_centre(pen& p, int) {
 }
 
 void draw_bomb(pen& p, int which) {
-    const moved here(p, 20.5, 26, 1.08);
+    const moved here(p, 19.5, 27.5, 1.06);
     bomb(p, which >= lit);
 }
 

@@ -17,7 +17,7 @@ constexpr face_of_key keys[] = {
     {"CANCEL", ink::rose, 19},       {"GAMBLE", ink::amethyst, 19},    {"START", ink::emerald, 24},
     {"STOP", ink::ruby, 19},         {"START", ink::emerald, 19},      {"SHOTS", ink::topaz, 18},
     {"COLLECT", ink::amber, 18},     {"CASH", ink::ruby, 19},          {"FEATURE", ink::sapphire, 18},
-    {"EXCHANGE", ink::amethyst, 18}, {"HI", ink::amber, 14},           {"LO", ink::sapphire, 14},
+    {"EXCHANGE", ink::amethyst, 18}, {"HI", ink::amber, 12},           {"LO", ink::sapphire, 12},
     {"EXIT", ink::ruby, 15},         {"RETURN", ink::emerald, 15},     {"BACK", ink::sapphire, 15},
     {"RESET", ink::ruby, 15},        {"SUBMIT SCORE", ink::amber, 16},
 };
@@ -47,12 +47,12 @@ void draw_button(pen& p, int which) {
     if (number_of_key == key::hi || number_of_key == key::lo) {
         const bool up = number_of_key == key::hi;
         {
-            const moved here(p, x, up ? 14.5 : 32.5, 0.85);
+            const moved here(p, x, up ? 15.5 : 31.5, 0.8);
             arrow(p, up ? 0 : 180, glass, on);
         }
-        cap_words(p, words, x, up ? 24.5 : 10, height, w - 14, glass, on);
+        cap_words(p, words, x, up ? 31 : 15.5, height, w - 14, glass, on);
     } else {
-        cap_words(p, words, x, (p.height - height) / 2, height, w - 14, glass, on);
+        cap_words(p, words, x, p.height / 2.0, height, w - 16, glass, on);
     }
 }
 
@@ -71,17 +71,17 @@ void draw_nudge_ladder(pen& p, int which) {
         const bool on = rung == top || (all && rung < top);
         const double y = 26 + (5 - rung) * 29.6;
         cap(p, {10, y, 81, 27}, 8, *glass[rung - 1], on, 4);
-        cap_words(p, std::to_string(rung), 50.5, y + 5.5, 16, 40, *glass[rung - 1], on);
+        cap_words(p, std::to_string(rung), 50.5, y + 13.5, 16, 40, *glass[rung - 1], on);
     }
 }
 
 void draw_nudge_lamp(pen& p, int which) {
     const bool on = which >= lit;
     cap(p, {5, 5, 91, 69}, 13, ink::topaz, on, 5);
-    cap_words(p, "NUDGE", 50.5, 15, 18, 70, ink::topaz, on);
-    cap_words(p, "NOW", 50.5, 41, 20, 70, ink::topaz, on);
-    for (const double x : {18.0, 83.0}) {
-        const moved here(p, x, 51, 0.8);
+    cap_words(p, "NUDGE", 50.5, 26, 17, 72, ink::topaz, on);
+    cap_words(p, "NOW", 50.5, 51.5, 17, 40, ink::topaz, on);
+    for (const double x : {19.0, 82.0}) {
+        const moved here(p, x, 52, 0.72);
         arrow(p, 180, ink::topaz, on);
     }
 }

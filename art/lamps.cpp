@@ -6,12 +6,11 @@ namespace hustle {
 
 void cap(pen& p, area a, double round, const ink::jewel& j, bool on, double spill) {
     const auto& [x, y, w, h] = a;
-    if (on) {
-        const auto light = ball(p, {{0, j.lit, 1}, {0.62, j.lit, 0.85}, {0.82, j.lit, 0.32}, {1, j.lit, 0}});
-        box(p, x - spill, y - spill, w + 2 * spill, h + 2 * spill, round + spill, {.fill = light});
-        box(p, x - spill * 0.5, y - spill * 0.5, w + spill, h + spill, round + spill * 0.5,
-            {.fill = j.lit, .fill_opacity = 0.4});
-    } else {
+    if (on)
+        for (double out = spill; out > 0.4; out -= spill / 5)
+            box(p, x - out, y - out, w + 2 * out, h + 2 * out, round + out,
+                {.fill = j.lit, .fill_opacity = 0.1 + 0.16 * (1 - out / spill)});
+    else {
         box(p, x - 1.5, y - 0.5, w + 3, h + 4, round + 1.5, {.fill = ink::black, .fill_opacity = 0.5});
     }
     box(p, x, y, w, h, round,
@@ -22,12 +21,12 @@ void cap(pen& p, area a, double round, const ink::jewel& j, bool on, double spil
     const double rim = h > 40 ? 3.2 : 2.4;
     const double gx = x + rim, gy = y + rim, gw = w - 2 * rim, gh = h - 2 * rim, gr = round - rim * 0.7;
     if (on) {
-        box(p, gx, gy, gw, gh, gr, {.fill = down(p, {{0, j.lit}, {0.5, j.lit}, {1, j.mid}})});
+        box(p, gx, gy, gw, gh, gr, {.fill = down(p, {{0, j.lit}, {0.6, j.lit}, {1, j.mid}})});
         box(p, gx, gy, gw, gh, gr,
-            {.fill = ball(p, {{0, j.hot}, {0.3, j.hot, 0.92}, {0.75, j.hot, 0.25}, {1, j.hot, 0}}, 0.5, 0.46,
-                          0.62)});
+            {.fill = ball(p, {{0, j.hot, 0.95}, {0.4, j.hot, 0.5}, {0.8, j.hot, 0.08}, {1, j.hot, 0}}, 0.5,
+                          0.62, 0.56)});
         box(p, gx + 0.6, gy + 0.6, gw - 1.2, gh - 1.2, gr,
-            {.stroke = ink::white, .width = 1.1, .stroke_opacity = 0.75});
+            {.stroke = j.hot, .width = 1.1, .stroke_opacity = 0.85});
     } else {
         box(p, gx, gy, gw, gh, gr, {.fill = down(p, {{0, j.deep}, {0.55, j.mid}, {1, j.deep}})});
         box(p, gx, gy, gw, gh, gr, {.fill = ball(p, {{0, j.lit, 0.2}, {1, j.lit, 0}}, 0.5, 0.85, 0.6)});
@@ -36,15 +35,19 @@ void cap(pen& p, area a, double round, const ink::jewel& j, bool on, double spil
     }
     const double gloss = gh * 0.42;
     box(p, gx + 2, gy + 1.6, gw - 4, gloss, gr * 0.8,
-        {.fill = down(p, {{0, ink::white, on ? 0.62 : 0.34}, {1, ink::white, on ? 0.06 : 0.03}})});
+        {.fill = down(p, {{0, ink::white, on ? 0.5 : 0.34}, {1, ink::white, on ? 0.06 : 0.03}})});
 }
 
 void cap_words(pen& p, std::string_view words, double x, double y, double height, double most,
                const ink::jewel& j, bool on) {
-    write(p, words, x, y, height,
-          {.fill = on ? ink::white : std::string_view("#d8cbb4"),
+    // Long words become smaller rather than thin.
+    constexpr double thinnest = 0.82;
+    const double wide = words_width(words, height, {.weight = 0.2, .stretch = thinnest});
+    const double size = wide > most ? height * most / wide : height;
+    write(p, words, x, y - size / 2, size,
+          {.fill = on ? ink::white : std::string_view("#e0d2b4"),
            .edge = on ? j.deep : ink::black,
-           .edge_width = height > 16 ? 2.2 : 1.5,
+           .edge_width = size > 14 ? 2 : 1.5,
            .edge_opacity = on ? 1 : 0.75,
            .shape = {.weight = 0.2, .stretch = 1.05, .most = most}});
 }
@@ -90,10 +93,8 @@ void bomb(pen& p, bool on) {
     disc(p, 0, 4, 14, {.fill = iron, .stroke = on ? "#ff7a3c" : "#000000", .width = 1.2});
     const moved shine(p, -5, -2.5, 1, -38);
     oval(p, 0, 0, 4, 2.2, {.fill = ink::white, .fill_opacity = on ? 0.85 : 0.4});
-    if (on) {
-        const moved spark(p, 12, -6, 1, 0);
-        sparkle(p, -3, -12, 9);
-    }
+    if (on)
+        sparkle(p, 11, -15, 9);
 }
 
 void gem(pen& p, const ink::jewel& j) {

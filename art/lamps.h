@@ -13,7 +13,7 @@ struct area {
 
 // Glass in a rim. Its light spills over the rim by up to `spill` pixels when it is lit.
 void cap(pen&, area, double round, const ink::jewel&, bool on, double spill = 5);
-// Words for such glass.
+// Words for such glass, centred on (x, y), `height` high or as high as `most` pixels of width allow.
 void cap_words(pen&, std::string_view words, double x, double y, double height, double most,
                const ink::jewel&, bool on);
 // A quiet plate of dark glass with a thin gold rim, on which other things stand.

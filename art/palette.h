@@ -18,14 +18,14 @@ struct jewel {
     std::string_view deep; // glass in shade
 };
 
-inline constexpr jewel ruby{"#ffd0b0", "#ff3434", "#8e1322", "#35040d"};
-inline constexpr jewel amber{"#fff9c4", "#ffb41e", "#8a5208", "#361c02"};
-inline constexpr jewel emerald{"#e2ffc4", "#2fdc4e", "#0e6a2c", "#032812"};
-inline constexpr jewel sapphire{"#d2f0ff", "#3593ff", "#123f92", "#04133a"};
-inline constexpr jewel amethyst{"#f8d8ff", "#c04cff", "#561a86", "#1e0636"};
-inline constexpr jewel topaz{"#fff0b8", "#ff7a1a", "#8a3606", "#341202"};
-inline constexpr jewel rose{"#ffe4ee", "#ff4f9c", "#861648", "#33041a"};
-inline constexpr jewel teal{"#d8fff6", "#22d6c8", "#0a5e60", "#022224"};
-inline constexpr jewel onyx{"#fff2dc", "#c8a27c", "#3a3038", "#110c12"};
+inline constexpr jewel ruby{"#ffb090", "#ff2626", "#8e1322", "#35040d"};
+inline constexpr jewel amber{"#fff6a0", "#ffb010", "#8a5208", "#361c02"};
+inline constexpr jewel emerald{"#d2ff9c", "#1fd840", "#0e6a2c", "#032812"};
+inline constexpr jewel sapphire{"#aee4ff", "#2280ff", "#123f92", "#04133a"};
+inline constexpr jewel amethyst{"#f0b8ff", "#b436ff", "#561a86", "#1e0636"};
+inline constexpr jewel topaz{"#ffe28c", "#ff6a0c", "#8a3606", "#341202"};
+inline constexpr jewel rose{"#ffc0dc", "#ff3490", "#861648", "#33041a"};
+inline constexpr jewel teal{"#b8fff0", "#10c8c0", "#0a5e60", "#022224"};
+inline constexpr jewel onyx{"#fff0cc", "#b88a5c", "#3a3038", "#110c12"};
 
 } // namespace hustle::ink

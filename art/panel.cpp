@@ -211,8 +211,8 @@ void draw_transfer(pen& p, int) {
 
 void draw_trailheld(pen& p, int) {
     cap(p, {4, 4, 62, 47}, 9, ink::emerald, true, 4);
-    cap_words(p, "TRAIL", 35, 10.5, 14, 50, ink::emerald, true);
-    cap_words(p, "HELD", 35, 29.5, 14, 50, ink::emerald, true);
+    cap_words(p, "TRAIL", 35, 18.5, 13, 48, ink::emerald, true);
+    cap_words(p, "HELD", 35, 36.5, 13, 48, ink::emerald, true);
 }
 
 } // namespace hustle
