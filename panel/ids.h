@@ -44,7 +44,6 @@ enum class element : std::uint16_t {
     cancelbutton,
     stopper,
     start,
-    transfer,
     picture1, // the nudge ladder
     nudgenow,
     numberone,
@@ -58,6 +57,7 @@ enum class element : std::uint16_t {
     numbernine,
     trailheld,
     toplogo,
+    transfer,
     displayline,
     // the menu entries of main
     newgame,

@@ -40,7 +40,6 @@ constexpr element_row rows[] = {
     button(cancelbutton, "cancelbutton", pixels( 32, 472, 82, 70), art::cancelpicdark),
     {stopper, screen::main, "stopper", kind::button, pixels(600, 472, 82, 70), art::stoppicdark, {}, false},
     button(start,        "start",        pixels(696, 464, 93, 80), art::startpicdark),
-    button(transfer,     "transfer",     pixels(768,   8, 19, 40), art::transferpic),
     pic(picture1, "picture1", pixels(8, 128, 103, 182), art::nudge0),
     pic(nudgenow, "nudgenow", pixels(8, 320, 103,  80), art::nudgenowpicdark),
     lamp(numberone,   "numberone",   416, 40, "1"),
@@ -54,6 +53,7 @@ constexpr element_row rows[] = {
     lamp(numbernine,  "numbernine",   58, 46, "FEATURE START"),
     {trailheld, screen::main, "trailheld", kind::picture, pixels(592, 368, 72, 56), art::trailheldpic, {}, true, false},
     pic(toplogo, "toplogo", pixels(0, 0, 800, 60), art::title),
+    button(transfer,     "transfer",     pixels(768,   8, 19, 40), art::transferpic),
     {displayline, screen::main, "displayline", kind::line, twips(1875, 1155, 6975, 495), art::none, "  ", true, true, 0, 0x0000FF},
 
     entry(newgame,        "newgame",        "New"),
