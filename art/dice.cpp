@@ -41,9 +41,10 @@ void draw_die(pen& p, int face) {
     glow(p, 48.5, 52, 48, 46, "#000000", 0.6);
     const moved here(p, p.width / 2.0, p.height / 2.0, 1.05);
     cube(p);
-    for (int i = 0; i < 9; ++i)
-        if ((faces[face - 1] >> i & 1U) != 0)
-            pip(p, (i % 3 - 1) * 21, (i / 3 - 1) * 21 - 1);
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 3; ++column)
+            if ((faces[face - 1] >> (3 * row + column) & 1U) != 0)
+                pip(p, (column - 1) * 21, (row - 1) * 21 - 1);
     gloss(p);
 }
 

@@ -64,11 +64,10 @@ void plate(pen& p, area a, double round) {
 }
 
 void moulding(pen& p, area hole, double thick, double round) {
-    const auto& [x, y, w, h] = hole;
-    const auto ringed = [&](double outer, double inner) {
-        return boxpath(x - outer, y - outer, w + 2 * outer, h + 2 * outer, round + outer) +
-               boxpath(x - inner, y - inner, w + 2 * inner, h + 2 * inner, round + inner);
+    const auto grown = [&](double by) {
+        return boxpath(hole.x - by, hole.y - by, hole.w + 2 * by, hole.h + 2 * by, round + by);
     };
+    const auto ringed = [&](double outer, double inner) { return grown(outer) + grown(inner); };
     path(p, ringed(thick, 0), {.fill = "#1a0a04", .hollow = true});
     path(p, ringed(thick - 0.8, 1.4), {.fill = gold(p), .hollow = true});
     path(p, ringed(thick - 0.8, thick * 0.6),

@@ -164,6 +164,8 @@ std::string text_path(std::string_view words, double x, double y, double height,
 }
 
 void write(pen& p, std::string_view words, double x, double y, double height, const lettering& how) {
+    if (words.empty())
+        return;
     const std::string d =
         text_path(words, x - words_width(words, height, how.shape) / 2, y, height, how.shape);
     const double stroke = how.shape.weight * height;

@@ -26,6 +26,6 @@ inline constexpr jewel amethyst{"#f0b8ff", "#b436ff", "#561a86", "#1e0636"};
 inline constexpr jewel topaz{"#ffe28c", "#ff6a0c", "#8a3606", "#341202"};
 inline constexpr jewel rose{"#ffc0dc", "#ff3490", "#861648", "#33041a"};
 inline constexpr jewel teal{"#b8fff0", "#10c8c0", "#0a5e60", "#022224"};
-inline constexpr jewel onyx{"#fff0cc", "#b88a5c", "#3a3038", "#110c12"};
+inline constexpr jewel onyx{"#ffffff", "#9db2d6", "#3a3444", "#100c18"};
 
 } // namespace hustle::ink

@@ -43,8 +43,8 @@ void at(pen& p, symbol s, double x, double y, double scale, money sign = money::
 void draw_startscreen(pen& p, int) {
     glass_ground(p, 480, 320);
     glow(p, 240, 200, 230, 120, "#ffb43c", 0.5);
-    gold_words(p, "HOARD", 240, 22, 58, 330, true);
-    gold_words(p, "HUSTLE", 240, 92, 58, 380, true);
+    gold_words(p, "HOARD", 240, 20, 56, 330, true);
+    gold_words(p, "HUSTLE", 240, 88, 56, 380, true);
     at(p, symbol::rseven, 66, 196, 0.8, money::pounds, -12);
     at(p, symbol::bseven, 414, 196, 0.8, money::pounds, 12);
     at(p, symbol::cherry, 52, 266, 0.6, money::pounds, -8);
@@ -52,7 +52,7 @@ void draw_startscreen(pen& p, int) {
     at(p, symbol::coin, 122, 250, 0.62, money::pounds, -10);
     at(p, symbol::bell, 358, 250, 0.68, money::pounds, 10);
     {
-        const moved here(p, 240, 277, 1.05);
+        const moved here(p, 240, 278, 0.98);
         chest(p);
     }
     box(p, 92, 283, 296, 25, 12,
@@ -92,13 +92,11 @@ void draw_wins(pen& p, int which) {
                  .width = 0.8});
             at(p, w.signs[i], 45 + i * 53, y + 19, 0.3, sign);
         }
-        if (jackpot) {
-            gold_words(p, mark + "15", 237, y + 4, 19, 90);
-            write(p, "JACKPOT", 237, y + 26.5, 8,
-                  {.fill = "#ffe9a8", .shape = {.weight = 0.17, .stretch = 1.2}});
-        } else {
-            gold_words(p, mark + std::string(w.prize), 237, y + 9, 20, 90);
-        }
+        const std::string_view note = jackpot ? "JACKPOT" : w.prize == "1.60" ? "MIXED SEVENS" : "";
+        gold_words(p, mark + std::string(w.prize), 237, y + (note.empty() ? 9 : 4), note.empty() ? 20 : 18.5,
+                   90);
+        write(p, note, 237, y + 26.5, 8,
+              {.fill = "#ffe9a8", .shape = {.weight = 0.17, .stretch = 1.2, .most = 96}});
         y += 42.5;
     }
 }

@@ -29,8 +29,12 @@ constexpr std::string_view barred = "M-27,-33 L28,-33 L28,-20 L17,-2 L25,-2 L25,
 void rseven(pen& p) {
     shadow(p, 43, 40);
     const auto rays = ball(p, {{0.3, "#ffd23c"}, {0.75, "#ff9a14"}, {1, "#d85c06"}});
-    path(p, star(0, 0, 53, 31, 14), {.fill = rays, .stroke = "#7a2a04", .width = 1.6});
-    disc(p, 0, 0, 31, {.fill = ball(p, {{0, "#fff7c0"}, {0.7, "#ffdf5c"}, {1, "#ffc531"}})});
+    {
+        const moved wide(p, 0, 0, point(1.1, 0.9), 0);
+        path(p, star(0, 0, 56, 33, 16), {.fill = rays, .stroke = "#7a2a04", .width = 1.6});
+    }
+    disc(p, 0, 0, 33, {.fill = ball(p, {{0, "#fff7c0"}, {0.7, "#ffdf5c"}, {1, "#ffc531"}})});
+    const moved smaller(p, 0, 0, 0.9);
     path(p, swept, {.fill = "#5a0210", .stroke = "#5a0210", .width = 10});
     path(p, swept, {.stroke = gold(p, -45, 46), .width = 7});
     path(p, swept, {.fill = down(p, {{0, "#ff7a5c"}, {0.2, "#f2182c"}, {0.6, "#c40a20"}, {1, "#7c0414"}})});
