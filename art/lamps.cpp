@@ -71,8 +71,8 @@ void moulding(pen& p, area hole, double thick, double round) {
     path(p, ringed(thick, 0), {.fill = "#1a0a04", .hollow = true});
     path(p, ringed(thick - 0.8, 1.4), {.fill = gold(p), .hollow = true});
     path(p, ringed(thick - 0.8, thick * 0.6),
-         {.fill = ramp(p, {{0, "#fff9d8"}, {0.25, "#f2c552"}, {0.6, "#a86c14"}, {1, "#ffe08a"}}, x, y, x + w,
-                       y + h),
+         {.fill = ramp(p, {{0, "#fff9d8"}, {0.25, "#f2c552"}, {0.6, "#a86c14"}, {1, "#ffe08a"}}, hole.x,
+                       hole.y, hole.x + hole.w, hole.y + hole.h),
           .hollow = true});
     path(p, ringed(thick * 0.6, thick * 0.6 - 1), {.fill = "#5a3206", .fill_opacity = 0.8, .hollow = true});
     path(p, ringed(1.4, 0), {.fill = "#0c0402", .hollow = true});

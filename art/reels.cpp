@@ -145,7 +145,7 @@ void draw_reel(pen& p, int stop) {
 void draw_spinning_reel(pen& p, int phase) {
     reel_paper(p);
     // Each phase shows other symbols at another height, so that the four in turn run downwards.
-    const int first[] = {0, 5, 3, 1};
+    const int first[] = {0, 5, 3, 6};
     for (int row = -1; row <= 4; ++row) {
         const double y = (row - 0.5) * cell + (phase - 1) * cell * 0.25;
         if (y < -68 || y > reel_height + 68)
