@@ -42,8 +42,8 @@ enum class ground { dark, lit };
 
 QColor dot_colour(QColor lamp, ground look, bool flash) {
     if (look == ground::lit)
-        return flash ? mix(lamp, Qt::white, 0.72) : mix(lamp, Qt::white, 0.12);
-    return flash ? mix(QColor(22, 16, 18), lamp, 0.52) : mix(QColor(30, 22, 24), lamp, 0.13);
+        return flash ? mix(lamp, Qt::white, 0.72) : mix(lamp, Qt::white, 0.22);
+    return flash ? mix(QColor(22, 16, 18), lamp, 0.52) : mix(QColor(24, 18, 20), lamp, 0.11);
 }
 
 QImage draw_ground(QSize size, QColor lamp, ground look, bool flash) {
@@ -59,10 +59,10 @@ QImage draw_ground(QSize size, QColor lamp, ground look, bool flash) {
         for (int column = 0; column < g.columns; ++column) {
             const QRect cell = g.dot(column, row);
             if (look == ground::lit)
-                painter.fillRect(cell, mix(glass, lamp, flash ? 0.45 : 0.30)); // the bloom round a lit dot
+                painter.fillRect(cell, mix(glass, lamp, flash ? 0.45 : 0.42)); // the bloom round a lit dot
             painter.setBrush(dot);
-            const double radius = 0.46 * std::min(cell.width(), cell.height());
-            painter.drawEllipse(QRectF(cell).center(), radius, std::max(radius, 0.42 * cell.height()));
+            const double radius = 0.5 * std::min(cell.width(), cell.height());
+            painter.drawEllipse(QRectF(cell).center(), radius, std::max(radius, 0.46 * cell.height()));
         }
     return image;
 }

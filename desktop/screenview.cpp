@@ -113,22 +113,13 @@ void screenview::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), ground_colour());
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
-    canvas c{painter, pictures, dots, scale};
-    const panel& p = machine.g.p;
-    const auto rows = elements_of(what);
-    bool glowed = false;
-    for (const element_row& r : rows) {
-        if (!event->region().intersects(dirty_rect(r.id)))
-            continue;
-        if (r.what == kind::label && !glowed) { // all glow lies beneath all lamps
-            for (const element_row& other : rows)
-                if (event->region().intersects(dirty_rect(other.id)))
-                    draw_glow(c, p, other.id, device_rect(other.id));
-            glowed = true;
-        }
-        if (!is_edited(r.id))
-            draw_element(c, p, r.id, device_rect(r.id), r.id == held);
-    }
+    canvas c{painter, pictures, dots, lamps, scale};
+    const QRegion& region = event->region();
+    for (const bool pictures_first : {true, false}) // no picture covers what can be pressed or read
+        for (const element_row& r : elements_of(what))
+            if ((r.what == kind::picture) == pictures_first && !is_edited(r.id) &&
+                region.intersects(dirty_rect(r.id)))
+                draw_element(c, machine.g.p, r.id, device_rect(r.id), r.id == held);
     has_painted = true;
     if (!machine.seen) {
         machine.seen = true;
@@ -143,6 +134,7 @@ void screenview::resizeEvent(QResizeEvent*) {
         settled.start(settle_ms);
     }
     dots.grounds.clear();
+    lamps.drawn.clear();
     place_children();
     std::size_t index = 0;
     for (const element_row& r : elements_of(what))

@@ -60,6 +60,7 @@ private:
     QPoint origin;    // device pixels
     picture_store pictures;
     dot_store dots;
+    lamp_store lamps;
     QTimer settled;
     element held = element::total; // the button under a mouse key that is down
     std::vector<std::pair<element, QLineEdit*>> text_boxes;

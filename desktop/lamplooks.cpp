@@ -1,0 +1,110 @@
+#include "desktop/lamplooks.h"
+
+#include "art/lamps.h"
+#include "desktop/colours.h"
+
+#include <QSvgRenderer>
+
+#include <string>
+#include <vector>
+
+namespace hustle::desktop {
+
+namespace {
+
+constexpr colour resting_label = 0xFFFFC0; // of the eight labels in the ring
+constexpr double given_up = 0.35;          // how much of a disabled lamp is left to see
+
+bool is_ring_label(const element_row& r) { return r.where == screen::feature && r.back == 0; }
+
+const ink::jewel& glass(const element_row& r, const element_state& state, bool lit) {
+    if (is_ring_label(r))
+        return lit ? ink::ruby : ink::teal;
+    const QColor back = from_bgr(state.back);
+    return back.blue() > back.red() ? ink::sapphire : ink::ruby;
+}
+
+// The lettering has capitals, and a sign of its own for the pound.
+std::string lamp_words(std::string_view text) {
+    constexpr std::string_view pound = "£";
+    std::string words;
+    while (!text.empty()) {
+        const bool is_pound = text.starts_with(pound);
+        words += is_pound ? '#' : text.front();
+        text.remove_prefix(is_pound ? pound.size() : 1);
+    }
+    return words;
+}
+
+// Two words on a lamp that is tall enough stand one above the other.
+std::vector<std::string> rows_of(const std::string& words, double height) {
+    const std::size_t blank = words.find(' ');
+    if (blank == std::string::npos || height < 34)
+        return {words};
+    return {words.substr(0, blank), words.substr(blank + 1)};
+}
+
+std::string lamp_svg(const element_row& r, const element_state& state, bool lit) {
+    const double width = r.place.width / 15.0;
+    const double height = r.place.height / 15.0;
+    constexpr double reach = glow_reach;
+    constexpr double gap = 1.6; // rungs overlap by a hair: each leaves its neighbours room
+    pen p{static_cast<int>(width + 2 * reach + 0.5), static_cast<int>(height + 2 * reach + 0.5)};
+    const ink::jewel& jewel = glass(r, state, lit);
+    const double inner = height - 2 * gap;
+    cap(p, {reach + 1, reach + gap, width - 2, inner}, std::min(9.0, inner * 0.34), jewel, lit,
+        glow_reach - 1);
+    const auto rows = rows_of(lamp_words(state.text), height);
+    const bool one = rows.size() == 1;
+    const double letters = one ? std::min(inner * 0.5, 17.0) : inner * 0.27;
+    const double step = inner * 0.37;
+    double middle = p.height / 2.0 - (one ? 0 : step / 2);
+    for (const std::string& words : rows) {
+        cap_words(p, words, p.width / 2.0, middle, letters, width - (width > 80 ? 14 : 9), jewel, lit);
+        middle += step;
+    }
+    return finish(p);
+}
+
+QPixmap draw_pixmap(const element_row& r, const element_state& state, bool lit, QSize size) {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    const std::string text = lamp_svg(r, state, lit);
+    QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
+    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    return pixmap;
+}
+
+} // namespace
+
+bool is_lamp(const element_row& r) { return r.what == kind::label && (r.back != 0 || is_ring_label(r)); }
+
+bool is_lit(const element_row& r, const element_state& state) {
+    if (is_ring_label(r))
+        return state.fore != resting_label;
+    return from_bgr(state.fore).lightness() > 100; // the letters of a dark lamp are black
+}
+
+void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const element_state& state,
+               QRect box, double pixel) {
+    const bool lit = is_lit(r, state);
+    const int reach = static_cast<int>(glow_reach * pixel + 0.5);
+    const QRect whole = box.adjusted(-reach, -reach, reach, reach);
+    const QString key = QString("%1 %2 %3 %4 %5")
+                            .arg(QString::fromStdString(state.text))
+                            .arg(lit ? state.fore : 0)
+                            .arg(state.back)
+                            .arg(whole.width())
+                            .arg(whole.height());
+    auto found = store.drawn.constFind(key);
+    if (found == store.drawn.cend())
+        found = store.drawn.insert(key, draw_pixmap(r, state, lit, whole.size()));
+    painter.setOpacity(state.enabled ? 1 : given_up);
+    painter.drawPixmap(whole.topLeft(), *found);
+    painter.setOpacity(1);
+}
+
+} // namespace hustle::desktop
