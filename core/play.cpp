@@ -173,7 +173,7 @@ void start_spin_in(game& g) {
 
 void hold_the_machine(game& g, int seconds) {
     const std::int64_t clock = g.p.clock_at_start + g.p.now;
-    const auto ms = static_cast<int>(seconds * 1000 - clock % 1000);
+    const auto ms = static_cast<int>(std::int64_t{seconds} * 1000 - clock % 1000);
     if (ms <= 0)
         return;
     g.w.wait(ms);
