@@ -90,8 +90,10 @@ void bomb(pen& p, bool on) {
            : ball(p, {{0, "#6c7080"}, {0.3, "#34363f"}, {0.75, "#131318"}, {1, "#050506"}}, 0.36, 0.3, 0.75);
     box(p, -1.5, -11.5, 9, 6, 1.5, {.fill = on ? "#8a2a12" : "#30323a", .stroke = ink::black, .width = 1});
     disc(p, 0, 4, 14, {.fill = iron, .stroke = on ? "#ff7a3c" : "#000000", .width = 1.2});
-    const moved shine(p, -5, -2.5, 1, -38);
-    oval(p, 0, 0, 4, 2.2, {.fill = ink::white, .fill_opacity = on ? 0.85 : 0.4});
+    {
+        const moved shine(p, -5, -2.5, 1, -38);
+        oval(p, 0, 0, 4, 2.2, {.fill = ink::white, .fill_opacity = on ? 0.85 : 0.4});
+    }
     if (on)
         sparkle(p, 11, -15, 9);
 }
