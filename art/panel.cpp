@@ -10,15 +10,18 @@ namespace hustle {
 
 namespace {
 
-// A fan of rays from a point, every other one of `n` drawn.
-std::string rays(double cx, double cy, double r, int n) {
-    std::string d;
+// A fan of rays from a point, every other one of `n` drawn. Each is a shape of its own: one path
+// of all takes renderers ten times as long.
+void rays(pen& p, double cx, double cy, double r, int n, const paint& how) {
+    const double step = 2 * std::numbers::pi / n;
     for (int i = 0; i < n; i += 2) {
-        const double a = 2 * std::numbers::pi * i / n, b = 2 * std::numbers::pi * (i + 1) / n;
-        d += joined("M", cx, ",", cy, "L", cx + r * std::cos(a), ",", cy + r * std::sin(a), "L",
-                    cx + r * std::cos(b), ",", cy + r * std::sin(b), "Z");
+        const double a = step * i, b = step * (i + 1);
+        path(p,
+             polygon({{cx, cy},
+                      {cx + r * std::cos(a), cy + r * std::sin(a)},
+                      {cx + r * std::cos(b), cy + r * std::sin(b)}}),
+             how);
     }
-    return d;
 }
 
 void end_jewel(pen& p, double x, double y, const ink::jewel& j, bool on) {
@@ -86,9 +89,7 @@ void draw_back(pen& p, int) {
     box(p, 0, 0, 800, 521, 0,
         {.fill =
              halo(p, {{0, "#6a1440"}, {0.45, "#3a0a3a"}, {0.8, "#1c0628"}, {1, "#0e0318"}}, 400, 270, 520)});
-    path(p, rays(400, 285, 640, 48),
-         {.fill =
-              halo(p, {{0, "#ffb04a", 0.22}, {0.5, "#ff7a3c", 0.12}, {1, "#ff7a3c", 0.05}}, 400, 285, 520)});
+    rays(p, 400, 285, 500, 48, {.fill = "#ff9a48", .fill_opacity = 0.085});
     for (const double r : {250.0, 330.0, 410.0})
         disc(p, 400, 285, r, {.stroke = "#ffc45a", .width = 1, .stroke_opacity = 0.16});
     // soft lights behind the glass

@@ -12,11 +12,11 @@ namespace {
 void glass_ground(pen& p, double w, double h) {
     box(p, 0, 0, w, h, 0,
         {.fill = halo(p, {{0, "#6a1440"}, {0.5, "#360a38"}, {1, "#12041e"}}, w / 2, h * 0.42, w * 0.75)});
-    std::string fan;
-    for (int i = 0; i < 18; ++i)
-        fan += joined("M", w / 2, ",", h * 0.42, "L", i * w / 9 - w / 2, ",", h * 1.02, "L",
-                      i * w / 9 - w / 2 + w / 18, ",", h * 1.02, "Z");
-    path(p, fan, {.fill = "#ffb04a", .fill_opacity = 0.06});
+    for (int i = 2; i < 16; ++i) {
+        const double x = i * w / 9 - w / 2;
+        path(p, polygon({{w / 2, h * 0.42}, {x, h}, {x + w / 18, h}}),
+             {.fill = "#ffb04a", .fill_opacity = 0.06});
+    }
     moulding(p, {6, 6, w - 12, h - 12}, 6, 6);
 }
 
