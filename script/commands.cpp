@@ -275,6 +275,11 @@ void run_line(runner& r, std::string_view line) {
 } // namespace
 
 int run_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err) {
+    return run_script(text, name, out, err, [](const game&) {});
+}
+
+int run_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err,
+               const std::function<void(const game&)>& at_end) {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
     if (text.starts_with(byte_order_mark))
         text.remove_prefix(byte_order_mark.size());
@@ -287,6 +292,7 @@ int run_script(std::string_view text, std::string_view name, std::ostream& out, 
         err << name << ':' << r.line << ": " << wrong.what() << '\n';
         return 2;
     }
+    at_end(r.s.g);
     return r.status;
 }
 

@@ -1,6 +1,9 @@
 // Runs a panel script.
 #pragma once
 
+#include "core/game.h"
+
+#include <functional>
 #include <ostream>
 #include <string_view>
 
@@ -10,5 +13,8 @@ namespace hustle::script {
 // the line. Returns the exit status: 0 all held, 1 an `expect` or `until` did not, 2 the script
 // ended at a line that cannot be understood.
 int run_script(std::string_view text, std::string_view file, std::ostream& out, std::ostream& err);
+// The same, and shows the machine as the script has left it.
+int run_script(std::string_view text, std::string_view file, std::ostream& out, std::ostream& err,
+               const std::function<void(const game&)>& at_end);
 
 } // namespace hustle::script

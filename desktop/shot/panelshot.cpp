@@ -1,0 +1,76 @@
+// Paints a screen of the machine as a panel script has left it:
+//   panelshot SCRIPT SCREEN PICTURE.png [WIDTH]
+// The pictures of the help pages and of the README are made so, and anyone can look at a state of
+// the machine without playing up to it.
+#include "desktop/painting.h"
+#include "desktop/places.h"
+#include "script/commands.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <cmath>
+#include <cstdio>
+#include <iostream>
+
+namespace {
+
+using namespace hustle;
+
+QRect scaled(const element_row& r, const element_state& state, double pixel) {
+    const auto at = [pixel](int twips) { return static_cast<int>(std::lround(twips / 15.0 * pixel)); };
+    return {QPoint(at(r.place.left), at(state.top)),
+            QPoint(at(r.place.left + r.place.width) - 1, at(state.top + r.place.height) - 1)};
+}
+
+QImage painted(const panel& p, screen what, int width) {
+    const double pixel = width / (row(what).width / 15.0);
+    QImage image(width, static_cast<int>(std::lround(row(what).height / 15.0 * pixel)), QImage::Format_RGB32);
+    image.fill(desktop::ground_colour());
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    desktop::picture_store pictures;
+    desktop::dot_store dots;
+    desktop::lamp_store lamps;
+    desktop::canvas c{painter, pictures, dots, lamps, pixel};
+    for (const bool pictures_first : {true, false})
+        for (const element_row& r : elements_of(what))
+            if ((r.what == kind::picture) == pictures_first)
+                desktop::draw_element(c, p, r.id, scaled(r, at(p, r.id), pixel), false);
+    return image;
+}
+
+const screen_row* screen_named(std::string_view wanted) {
+    for (const screen_row& s : screen_rows())
+        if (s.name == wanted)
+            return &s;
+    return nullptr;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 4) {
+        std::fputs("panelshot SCRIPT SCREEN PICTURE.png [WIDTH]\n", stderr);
+        return 2;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const screen_row* const what = screen_named(argv[2]);
+    const auto script = desktop::read_file(QString::fromLocal8Bit(argv[1]));
+    const int width = argc > 4 ? QString::fromLocal8Bit(argv[4]).toInt() : 800;
+    if (what == nullptr || !script || width < 100 || width > 8000) {
+        std::fputs("panelshot: no such screen or script, or a width outside 100 to 8000\n", stderr);
+        return 2;
+    }
+    bool saved = false;
+    const int status = script::run_script(*script, argv[1], std::cout, std::cerr, [&](const game& g) {
+        saved = painted(g.p, what->id, width).save(QString::fromLocal8Bit(argv[3]));
+    });
+    if (status == 0 && !saved)
+        std::fputs("panelshot: the picture could not be written\n", stderr);
+    return status != 0 ? status : !saved;
+}
