@@ -16,7 +16,7 @@ constexpr element_row box(element id, screen where, std::string_view name, rect 
 }
 constexpr element_row stat(element id, std::string_view name, int column, int line,
                            std::string_view caption) {
-    return label(id, screen::statistics, name, pixels(12 + 178 * (column - 1), 22 + 40 * (line - 1), 88, 24),
+    return label(id, screen::statistics, name, pixels(12 + 178 * (column - 1), 19 + 40 * (line - 1), 88, 24),
                  caption);
 }
 constexpr element_row figure(element id, std::string_view name, int column, int line,
