@@ -22,8 +22,8 @@ void draw_plain_label(canvas& c, const element_row& r, const element_state& stat
                       QRect box) {
     lettering look;
     look.box = box;
-    look.largest = std::min(box.height() * 0.7, 19 * c.pixel);
-    look.wrap = true;
+    look.largest = std::min(box.height() * 0.7, (r.where == screen::statistics ? 13 : 19) * c.pixel);
+    look.wrap = r.where != screen::statistics;
     look.fore = from_bgr(state.fore);
     look.align = r.where == screen::About        ? Qt::AlignLeft | Qt::AlignTop
                  : r.where == screen::statistics ? Qt::AlignRight | Qt::AlignVCenter

@@ -13,6 +13,7 @@ namespace {
 using enum element;
 
 constexpr coming_art main_arts[] = {
+    {art::back, art::back, background},
     {art::holdpicdark, art::cancelpiclight, hold1},
     {art::startpicdark, art::startpiclight, start},
     {art::nudgenowpicdark, art::nudgenowpiclight, nudgenow},
@@ -23,6 +24,8 @@ constexpr coming_art main_arts[] = {
     {art::title, art::title2, toplogo},
 };
 constexpr coming_art feature_arts[] = {
+    {art::back, art::back, feature_background},
+    {art::buttonbarpic, art::buttonbarpic, feature_buttonbar},
     {art::dice1pic, art::spineffect4, feature_dicepic},
     {art::fstoppicdark, art::exchangepiclight, feature_startbutton},
     {art::hipicdark, art::lopiclight, feature_hibutton},

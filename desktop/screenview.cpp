@@ -41,8 +41,8 @@ screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
     QObject::connect(&settled, &QTimer::timeout, this, [this] {
         pictures.settling = false;
         pictures.latest.clear();
+        next_row = 0;
         next_group = 0;
-        next_in_group = 0;
         update();
         draw_ahead(machine);
     });
@@ -141,23 +141,33 @@ void screenview::resizeEvent(QResizeEvent*) {
         drawn[index++] = dirty_rect(r.id);
 }
 
+// True where the picture had to be drawn.
+bool screenview::draw_now(art a, element on) {
+    if (a == art::none)
+        return false;
+    if (machine.g.p.dollars)
+        a = dollar_version(a);
+    const auto before = pictures.sharp.size();
+    picture(pictures, a, device_rect(on).size());
+    return pictures.sharp.size() != before;
+}
+
 bool screenview::draw_one_ahead() {
+    const auto rows = elements_of(what); // first what stands there from the beginning
+    while (next_row < rows.size()) {
+        const element_row& r = rows[next_row++];
+        if (draw_now(r.picture, r.id))
+            return true;
+    }
     const auto groups = coming_arts(what);
     while (next_group < groups.size()) {
         const coming_art& group = groups[next_group];
         const int count = static_cast<int>(group.last) - static_cast<int>(group.first) + 1;
-        if (next_in_group >= count) {
-            ++next_group;
-            next_in_group = 0;
-            continue;
-        }
-        art a = nth(group.first, ++next_in_group);
-        if (machine.g.p.dollars)
-            a = dollar_version(a);
-        const auto before = pictures.sharp.size();
-        picture(pictures, a, device_rect(group.on).size());
-        if (pictures.sharp.size() != before)
-            return true;
+        while (next_in_group < count)
+            if (draw_now(nth(group.first, ++next_in_group), group.on))
+                return true;
+        ++next_group;
+        next_in_group = 0;
     }
     return false;
 }

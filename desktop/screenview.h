@@ -54,6 +54,7 @@ private:
     void make_text_boxes();
     void place_children();
     void set_held(element);
+    bool draw_now(art, element on);
 
     const hustle::screen what;
     double scale = 1; // device pixels to a panel pixel
@@ -66,6 +67,7 @@ private:
     std::vector<std::pair<element, QLineEdit*>> text_boxes;
     spoken_views spoken;
     std::vector<QRect> drawn; // where each element was last drawn, widget pixels
+    std::size_t next_row = 0; // of the drawing ahead
     std::size_t next_group = 0;
     int next_in_group = 0;
     bool has_painted = false;

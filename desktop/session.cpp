@@ -10,6 +10,7 @@
 #include <QTime>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace hustle::desktop {
 
@@ -178,6 +179,10 @@ void start_session(session& s) {
 }
 
 void first_painted(session& s) {
+    if (qEnvironmentVariableIsSet("HUSTLE_FIRST_FRAME")) {
+        std::puts("first frame");
+        std::fflush(stdout);
+    }
     QTimer::singleShot(0, &s.wake, [&s] { after_first_frame(s); });
 }
 
