@@ -46,15 +46,14 @@ bool stands_for(const word_option& o, word now) {
     return o.unless.empty() ? now == o.value : now != o.unless;
 }
 
-bool store_option(game& g, element entry) {
-    for (const number_option& o : numbers)
-        if (o.entry == entry) {
-            g.m.*o.setting = o.value;
-            return true;
-        }
-    for (const word_option& o : words)
-        if (o.entry == entry) {
-            g.m.*o.setting = o.value;
+// A group of entries works like radio buttons; the other groups keep their ticks.
+bool choose(game& g, element entry, const auto& options) {
+    for (const auto& chosen : options)
+        if (chosen.entry == entry) {
+            g.m.*chosen.setting = chosen.value;
+            for (const auto& o : options)
+                if (o.setting == chosen.setting)
+                    set_checked(g.p, o.entry, o.entry == entry);
             return true;
         }
     return false;
@@ -70,9 +69,8 @@ void tickoptions(game& g) {
 }
 
 bool chooseoption(game& g, element entry) {
-    if (!store_option(g, entry))
+    if (!choose(g, entry, numbers) && !choose(g, entry, words))
         return false;
-    tickoptions(g);
     if (entry >= reddisp && entry <= greendisp)
         set_activecolor(g.p, displayline, led_colour(g.m.ledcolour));
     if (entry == ds || entry == ps)
