@@ -158,9 +158,11 @@ void session::unload(screen s) {
     });
 }
 
+// A handler that held the machine may have run past the target: what fell due meanwhile then waits
+// for the next command.
 bool session::deliver_one(std::int64_t target) {
     timer tick{};
-    if (over() || !take_tick(g.p, target, tick))
+    if (over() || g.p.now > target || !take_tick(g.p, target, tick))
         return false;
     event(tick_names[static_cast<std::size_t>(tick)], [&] {
         run_tick(g, tick);
