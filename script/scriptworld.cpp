@@ -72,7 +72,7 @@ bool scriptworld::box(const message& m) {
     if (telling)
         tell("box ", quote(m.title), " ", quote(m.text), m.yes_or_no ? " yesno -> " : " ok -> ",
              answer_names[static_cast<std::size_t>(given)]);
-    return given != answer::no;
+    return !m.yes_or_no || given == answer::yes;
 }
 
 // The machine moves its own clock on.
