@@ -74,7 +74,6 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(tell_message);
     QApplication application(argc, argv);
     QApplication::setApplicationName("hoardhustle");
-    QApplication::setApplicationDisplayName("Hoard Hustle");
     QApplication::setDesktopFileName("hoardhustle");
     QApplication::setQuitOnLastWindowClosed(false);
     hustle::desktop::session session;

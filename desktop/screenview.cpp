@@ -34,7 +34,7 @@ input pressed(element e) { return {input::kind::press, row(e).where, e}; }
 screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
     : QWidget(parent), machine(s), what(shown) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::ClickFocus);
     setMouseTracking(true);
     drawn.resize(elements_of(what).size());
     settled.setSingleShot(true);

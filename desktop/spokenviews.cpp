@@ -33,7 +33,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        if (!hasFocus())
+        if (!hasFocus() || !by_keyboard)
             return;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
@@ -41,6 +41,10 @@ protected:
         painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 6, 6);
         painter.setPen(QPen(QColor(255, 255, 255), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 6, 6);
+    }
+    void focusInEvent(QFocusEvent* event) override {
+        by_keyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        QPushButton::focusInEvent(event);
     }
     void keyPressEvent(QKeyEvent* event) override {
         const bool on_side = view.isWindow();
@@ -56,6 +60,7 @@ protected:
 private:
     screenview& view;
     const element id;
+    bool by_keyboard = false; // the focus came by Tab and is shown
 };
 
 bool is_button(const element_row& r) {
@@ -76,7 +81,7 @@ void keep_focus(spoken_views& views, screenview& view, spoken_view& v) {
     v.child->setEnabled(is_enabled(view.machine.g.p, v.id));
     if (live && views.resting == v.id) {
         if (view.hasFocus())
-            v.child->setFocus(Qt::OtherFocusReason);
+            v.child->setFocus(Qt::TabFocusReason);
         views.resting = element::total;
     }
 }
