@@ -16,41 +16,20 @@ namespace hustle::desktop {
 
 namespace {
 
-constexpr int patience_ms = 100;     // a tick later than this means a stall
-constexpr int patience_quick_ms = 4; // while a timer of a few ms runs
-constexpr int quick_ms = 5;
 constexpr int ahead_ms = 8; // between two pictures that are drawn ahead
-
-qint64 clock_of(const session& s) { return std::max<qint64>(s.real.elapsed() - s.behind, s.g.p.now); }
-
-int patience(const panel& p) {
-    for (int i = 0; i < p.queued; ++i)
-        if (interval(p, p.queue[static_cast<std::size_t>(i)].what) < quick_ms)
-            return patience_quick_ms;
-    return patience_ms;
-}
-
-// The clock to go by now. After a stall it goes on from the tick that was missed.
-qint64 catch_up(session& s) {
-    const qint64 now = clock_of(s);
-    std::int64_t due = 0;
-    if (!next_due(s.g.p, due) || now - due <= patience(s.g.p))
-        return now;
-    s.behind += now - due;
-    return due;
-}
 
 void arm(session& s) {
     std::int64_t due = 0;
     if (s.g.p.over || s.held > 0 || !s.started || !next_due(s.g.p, due))
         return;
-    s.wake.start(static_cast<int>(std::clamp<qint64>(due - clock_of(s), 0, 60000)));
+    s.wake.start(
+        static_cast<int>(std::clamp<qint64>(due - reading(s.clock, s.g.p, s.real.elapsed()), 0, 60000)));
 }
 
 void deliver_due(session& s) {
     if (s.held > 0 || s.g.p.over)
         return;
-    deliver(s.g, catch_up(s));
+    deliver(s.g, catch_up(s.clock, s.g.p, s.real.elapsed()));
     refresh(s);
     arm(s);
 }
@@ -140,7 +119,7 @@ void after_first_frame(session& s) {
         return;
     }
     s.started = true;
-    s.behind = s.real.elapsed() - s.g.p.now;
+    s.clock.behind = s.real.elapsed() - s.g.p.now;
     open_ears(s.world);
     draw_ahead(s);
     arm(s);
@@ -198,7 +177,7 @@ void end_session(session& s) {
 void send(session& s, const input& in) {
     if (s.held > 0 || s.g.p.over || !s.started)
         return;
-    deliver(s.g, catch_up(s));
+    deliver(s.g, catch_up(s.clock, s.g.p, s.real.elapsed()));
     apply(s.g, in);
     settle(s.g);
     refresh(s);
@@ -240,7 +219,7 @@ hold_machine::hold_machine(session& held) : s(held), since(held.real.elapsed()) 
 void hold_machine::release(int counted) {
     --s.held;
     if (s.started)
-        s.behind += s.real.elapsed() - since - counted;
+        s.clock.behind += s.real.elapsed() - since - counted;
 }
 
 } // namespace hustle::desktop

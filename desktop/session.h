@@ -1,10 +1,10 @@
 // One machine in its windows: the record that ties the game to the real clock and to what is on
 // the screen, and the few functions that move it on.
 //
-// The machine's clock follows the real one. It stands while a message box is open, and after a
-// stall it goes on from where it was: ticks that were missed are not made up for in a burst.
+// The machine's clock follows the real one. It stands while a message box is open.
 #pragma once
 
+#include "desktop/clock.h"
 #include "desktop/qtworld.h"
 #include "screens/dispatch.h"
 
@@ -23,8 +23,8 @@ struct session {
     game g{world};
 
     QElapsedTimer real;
-    qint64 behind = 0; // ms that the machine's clock is behind `real`
-    int held = 0;      // above 0 while a box or a blocking wait holds the machine
+    machine_clock clock;
+    int held = 0; // above 0 while a box or a blocking wait holds the machine
     bool started = false;
     bool seen = false; // something has been painted
     QTimer wake;       // the next tick

@@ -1,0 +1,113 @@
+// The parts of the window that need no screen: its clock, its files, its names and its letters.
+#include "core/start.h"
+#include "desktop/clock.h"
+#include "desktop/dotfont.h"
+#include "desktop/places.h"
+#include "desktop/spokennames.h"
+#include "panel/sheet.h"
+#include "panel/stillworld.h"
+#include "screens/dispatch.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace hustle::desktop {
+
+namespace {
+
+// A machine on main, just booted.
+struct booted {
+    stillworld w;
+    game g{w};
+
+    booted() {
+        reset_game(g, 43'200'000);
+        boot(g);
+        deliver(g, 1000);
+    }
+};
+
+int ticks_at(machine_clock& clock, panel& p, std::int64_t real) {
+    const std::int64_t until = catch_up(clock, p, real);
+    int count = 0;
+    timer which{};
+    while (take_tick(p, until, which))
+        ++count;
+    p.now = std::max(p.now, until);
+    return count;
+}
+
+TEST(Clock, FollowsTheRealOneAndNeverMakesUpForAStall) {
+    booted b;
+    panel& p = b.g.p;
+    machine_clock clock;
+    int steady = 0;
+    for (int real = 1005; real <= 2000; real += 5)
+        steady += ticks_at(clock, p, real);
+    EXPECT_EQ(steady, 10); // the lamps, every 100 ms
+    EXPECT_EQ(clock.behind, 0);
+
+    EXPECT_LE(ticks_at(clock, p, 62'000), 1); // asleep for a minute
+    EXPECT_NEAR(static_cast<double>(clock.behind), 59'950, 100);
+    int after = 0;
+    for (int real = 62'005; real <= 63'000; real += 5)
+        after += ticks_at(clock, p, real);
+    EXPECT_NEAR(after, 10, 1);
+}
+
+TEST(Clock, GivesAQuickTimerAFewTicksAtATime) {
+    booted b;
+    panel& p = b.g.p;
+    open_screen(p, screen::feature);
+    start_timer(p, timer::feature_fastcash); // every millisecond
+    machine_clock clock;
+    for (int real = 1016; real <= 2000; real += 16) // a slow painter
+        EXPECT_LE(ticks_at(clock, p, real), 5 + 4);
+}
+
+TEST(Files, AreReplacedWholeOrNotAtAll) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("game.dat");
+    EXPECT_FALSE(read_file(path).has_value());
+    EXPECT_TRUE(write_file(path, "old\r\n"));
+    EXPECT_TRUE(write_file(path, "new\r\n"));
+    EXPECT_EQ(read_file(path), "new\r\n");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1); // nothing is left beside it
+    EXPECT_FALSE(write_file(folder.filePath("nowhere/game.dat"), "x"));
+
+    set_file_aside(path);
+    EXPECT_FALSE(read_file(path).has_value());
+    EXPECT_EQ(read_file(path + ".damaged"), "new\r\n");
+    EXPECT_TRUE(write_file(path, "newer"));
+    set_file_aside(path); // one kept before gives way
+    EXPECT_EQ(read_file(path + ".damaged"), "newer");
+}
+
+TEST(Names, TellEveryButtonLampAndLine) {
+    booted b;
+    for (const screen_row& s : screen_rows())
+        for (const element_row& r : elements_of(s.id))
+            if (r.what == kind::button || r.what == kind::clicked || r.what == kind::push) {
+                EXPECT_FALSE(spoken_name(b.g, r.id).isEmpty()) << s.name << "." << r.name;
+            }
+    EXPECT_EQ(spoken_name(b.g, element::displayline), "0.00 20");
+    EXPECT_EQ(spoken_name(b.g, element::reel1), "Reel 1: bell");
+    set_caption(b.g.p, element::displayline, "    xxx I LIKE IT xxx");
+    EXPECT_EQ(spoken_name(b.g, element::displayline), "I LIKE IT");
+    set_fore(b.g.p, element::numberfour, 65535);
+    EXPECT_EQ(spoken_name(b.g, element::numberfour), "Trail 4: BONUS, lit");
+}
+
+TEST(Letters, HaveALookForEverySignOfTheMachine) {
+    const auto& unknown = glyph_of(0x4E2D).rows;
+    for (const char32_t letter : std::u32string(U"ABCXYZ0189*+-/\\'><.?£$xp!&é€"))
+        EXPECT_NE(glyph_of(letter).rows, unknown) << static_cast<unsigned>(letter);
+    EXPECT_EQ(glyph_of(U'É').rows, glyph_of(U'E').rows);
+    EXPECT_NE(glyph_of(U'O').rows, glyph_of(U'0').rows);
+}
+
+} // namespace
+
+} // namespace hustle::desktop
