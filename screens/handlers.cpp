@@ -27,9 +27,10 @@ template <screen s> void unload(game& g) { unload_screen(g, s); }
 void stay_open(game&) {} // the board has no close of its own
 void openguide(game& g) { menupress(g, element::rguidemenu); }
 
-// The table of scores closes by its Exit button once the game has been left.
+// The table that ends the program closes as by its Exit button; one opened for viewing just closes,
+// also where it still stands while a name is asked for.
 void close_Highscore(game& g) {
-    if (g.m.exiting == 1)
+    if (g.m.exiting == 1 && is_visible(g.p, element::Highscore_Picture1))
         Highscore_exit(g);
     else
         unload_screen(g, screen::Highscore);
