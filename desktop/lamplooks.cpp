@@ -17,9 +17,17 @@ constexpr double given_up = 0.35;          // how much of a disabled lamp is lef
 
 bool is_ring_label(const element_row& r) { return r.where == screen::feature && r.back == 0; }
 
+// The lamps that one plays for: they are made of another glass than the steps up to them.
+bool is_goal(element e) {
+    return e == element::numberfour || e == element::numbernine || e == element::feature_m10 ||
+           e == element::feature_f10;
+}
+
 const ink::jewel& glass(const element_row& r, const element_state& state, bool lit) {
     if (is_ring_label(r))
         return lit ? ink::ruby : ink::teal;
+    if (is_goal(r.id))
+        return ink::amber;
     const QColor back = from_bgr(state.back);
     return back.blue() > back.red() ? ink::sapphire : ink::ruby;
 }
