@@ -5,6 +5,8 @@
 
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -57,7 +59,8 @@ std::string lamp_svg(const element_row& r, const element_state& state, bool lit)
     const double height = r.place.height / 15.0;
     constexpr double reach = glow_reach;
     constexpr double gap = 1.6; // rungs overlap by a hair: each leaves its neighbours room
-    pen p{static_cast<int>(width + 2 * reach + 0.5), static_cast<int>(height + 2 * reach + 0.5)};
+    pen p{static_cast<int>(std::lround(width + 2 * reach)),
+          static_cast<int>(std::lround(height + 2 * reach))};
     const ink::jewel& jewel = glass(r, state, lit);
     const double inner = height - 2 * gap;
     cap(p, {reach + 1, reach + gap, width - 2, inner}, std::min(9.0, inner * 0.34), jewel, lit,
@@ -99,7 +102,7 @@ bool is_lit(const element_row& r, const element_state& state) {
 void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const element_state& state,
                QRect box, double pixel) {
     const bool lit = is_lit(r, state);
-    const int reach = static_cast<int>(glow_reach * pixel + 0.5);
+    const int reach = static_cast<int>(std::lround(glow_reach * pixel));
     const QRect whole = box.adjusted(-reach, -reach, reach, reach);
     const QString key = QString("%1 %2 %3 %4 %5")
                             .arg(QString::fromStdString(state.text))

@@ -32,7 +32,7 @@ void flush_folder([[maybe_unused]] const QString& folder) {
 QString data_folder() {
     QString folder = qEnvironmentVariable("HUSTLE_DATA");
     if (folder.isEmpty()) {
-        const QString beside = QCoreApplication::applicationDirPath();
+        QString beside = QCoreApplication::applicationDirPath();
         if (QFileInfo(beside).isWritable())
             return beside;
         folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/hoardhustle";

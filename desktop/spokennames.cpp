@@ -108,7 +108,7 @@ QString spoken_name(const game& g, element e) {
             return f.name;
     if (e == trailheld)
         return "Trail held";
-    const QString family = family_name(g, e);
+    QString family = family_name(g, e);
     if (!family.isEmpty())
         return family;
     const element_row& r = row(e);
