@@ -10,7 +10,7 @@ namespace hustle::desktop {
 
 namespace {
 
-constexpr int cell_columns = glyph_columns + 1;
+static_assert(cell_columns == glyph_columns + 1);
 
 // The dots of a line stand on a grid that is centred in its box. A whole number of device pixels
 // from dot to dot looks best; where that would waste much of the box the grid is uneven.
@@ -82,20 +82,25 @@ const QImage& ground_of(dot_store& store, QSize size, colour dots, ground look, 
 int cells_of(double width, double height) { return width > 5 * height ? line_cells : 4; }
 
 void draw_dot_line(QPainter& painter, dot_store& store, QRect box, const QString& text, colour dots,
-                   bool flash) {
+                   bool flash, int run) {
     const grid g = grid_of(box.size());
     painter.drawImage(box.topLeft(), ground_of(store, box.size(), dots, ground::dark, flash));
     const QImage& lit = ground_of(store, box.size(), dots, ground::lit, flash);
     const QList<uint> letters = text.toUcs4();
-    const auto cells = std::min<qsizetype>(letters.size(), cells_of(box.width(), box.height()));
-    for (int cell = 0; cell < static_cast<int>(cells); ++cell) {
+    for (qsizetype cell = 0; cell < letters.size(); ++cell) {
+        const int left = static_cast<int>(cell) * cell_columns - run;
+        if (left >= g.columns)
+            break;
         const glyph& shape = glyph_of(letters[cell]);
         for (int row = 0; row < glyph_rows; ++row)
-            for (int column = 0; column < glyph_columns; ++column)
-                if ((shape.rows[static_cast<std::size_t>(row)] >> (glyph_columns - 1 - column)) & 1) {
-                    const QRect dot = g.dot(cell * cell_columns + column, row);
-                    painter.drawImage(box.topLeft() + dot.topLeft(), lit, dot);
-                }
+            for (int column = 0; column < glyph_columns; ++column) {
+                const bool on_line = left + column >= 0 && left + column < g.columns;
+                if (!on_line ||
+                    !((shape.rows[static_cast<std::size_t>(row)] >> (glyph_columns - 1 - column)) & 1))
+                    continue;
+                const QRect dot = g.dot(left + column, row);
+                painter.drawImage(box.topLeft() + dot.topLeft(), lit, dot);
+            }
     }
 }
 

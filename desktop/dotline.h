@@ -11,6 +11,7 @@
 namespace hustle::desktop {
 
 inline constexpr int line_cells = 26;
+inline constexpr int cell_columns = 6; // dots from one letter to the next
 
 // How many cells a line of this shape has: 26, or 4 for a short box.
 int cells_of(double width, double height);
@@ -22,7 +23,9 @@ struct dot_store {
 };
 
 // Draws `text` into `box`, given in device pixels; what goes beyond the right end is cut. With
-// `flash` the line has its second look: the ground glows and the letters are hot.
-void draw_dot_line(QPainter&, dot_store&, QRect box, const QString& text, colour dots, bool flash);
+// `flash` the line has its second look: the ground glows and the letters are hot. `run` is how many
+// columns of dots the text has run to the left.
+void draw_dot_line(QPainter&, dot_store&, QRect box, const QString& text, colour dots, bool flash,
+                   int run = 0);
 
 } // namespace hustle::desktop

@@ -107,7 +107,11 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
     case kind::line:
         if (e == element::feature_displayline)
             draw_rim(c, box);
-        draw_dot_line(c.painter, c.dots, box, text_of(p, e), state.activecolor, state.lineflash);
+        if (c.running != nullptr && c.running->on == e)
+            draw_dot_line(c.painter, c.dots, box, c.running->before, state.activecolor, state.lineflash,
+                          c.running->run);
+        else
+            draw_dot_line(c.painter, c.dots, box, text_of(p, e), state.activecolor, state.lineflash);
         break;
     case kind::textbox: draw_field(c, text_of(p, e), box); break;
     case kind::push: draw_push(c, text_of(p, e), box, pressed); break;

@@ -12,12 +12,20 @@
 
 namespace hustle::desktop {
 
+// A line whose text runs to the left by a letter at a tick: between two ticks it moves dot by dot.
+struct running_line {
+    element on = element::total; // total: none runs
+    QString before;              // the text before the last tick
+    int run = 0;                 // columns of dots that it has moved since
+};
+
 struct canvas {
     QPainter& painter;
     picture_store& pictures;
     dot_store& dots;
     lamp_store& lamps;
     double pixel; // device pixels to a pixel of the panel
+    const running_line* running = nullptr;
 };
 
 // The ground on which every screen stands.

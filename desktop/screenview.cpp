@@ -46,6 +46,8 @@ screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
         update();
         draw_ahead(machine);
     });
+    running_step.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&running_step, &QTimer::timeout, this, [this] { run_on(); });
     make_text_boxes();
 }
 
@@ -86,6 +88,28 @@ QRect screenview::dirty_rect(element e) const {
     return widget_rect(e).adjusted(-reach, -reach, reach, reach);
 }
 
+// A text that is the last one without its first letter has run on by one: the belt. It moves there
+// dot by dot until its next tick. Any other text stands at once.
+void screenview::follow_line(element e) {
+    const QString text = QString::fromStdString(at(machine.g.p, e).text);
+    const bool runs =
+        text.size() >= line_cells && last_line.size() == text.size() + 1 && last_line.endsWith(text);
+    running = runs ? running_line{e, last_line, 1} : running_line{};
+    if (runs)
+        running_step.start(interval(machine.g.p, timer::feature_moneybelttimer) / cell_columns);
+    else
+        running_step.stop();
+    last_line = text;
+}
+
+void screenview::run_on() {
+    if (++running.run >= cell_columns) {
+        running = running_line{};
+        running_step.stop();
+    }
+    update(widget_rect(element::feature_displayline));
+}
+
 void screenview::refresh() {
     std::size_t index = 0;
     for (const element_row& r : elements_of(what)) {
@@ -94,6 +118,8 @@ void screenview::refresh() {
         if (!state.touched || r.what == kind::entry)
             continue;
         state.touched = false;
+        if (r.id == element::feature_displayline)
+            follow_line(r.id);
         const QRect now = dirty_rect(r.id);
         update(before == now ? now : before.united(now));
         before = now;
@@ -113,7 +139,7 @@ void screenview::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), ground_colour());
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
-    canvas c{painter, pictures, dots, lamps, scale};
+    canvas c{painter, pictures, dots, lamps, scale, &running};
     const QRegion& region = event->region();
     for (const bool pictures_first : {true, false}) // no picture covers what can be pressed or read
         for (const element_row& r : elements_of(what))

@@ -54,6 +54,8 @@ private:
     void make_text_boxes();
     void place_children();
     void set_held(element);
+    void follow_line(element);
+    void run_on();
     bool draw_now(art, element on);
 
     const hustle::screen what;
@@ -63,6 +65,9 @@ private:
     dot_store dots;
     lamp_store lamps;
     QTimer settled;
+    running_line running; // the belt on its way
+    QTimer running_step;
+    QString last_line;             // what the board's line showed before
     element held = element::total; // the button under a mouse key that is down
     std::vector<std::pair<element, QLineEdit*>> text_boxes;
     spoken_views spoken;
