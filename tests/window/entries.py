@@ -54,8 +54,10 @@ def guides(machine):
         machine.front(machine.window(title))
         machine.key("Escape")
         machine.gone(title)
-    machine.menu("h", "o")  # the two pages are the browser's business
-    machine.menu("h", "v")
+    for letter, page in (("o", "index.html"), ("v", "home.html")):
+        machine.menu("h", letter)
+        opened = machine.page_opened(page)
+        assert os.path.isfile(opened), f"the browser was sent to {opened}, which is not there"
 
 
 def insert_a_coin(machine):

@@ -10,6 +10,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import urllib.parse
 
 PANEL = (800, 562)  # pixels of main
 BOARD = (800, 593)
@@ -47,11 +48,22 @@ class Machine:
     def __init__(self, program, display, seed, folder, wait_for_main=True):
         self.env = dict(os.environ, DISPLAY=display.name, HUSTLE_DATA=folder, HUSTLE_SEED=str(seed),
                         SDL_AUDIODRIVER="dummy", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
-                        QT_SCALE_FACTOR="1")
+                        QT_SCALE_FACTOR="1", PATH=self.browser(folder) + os.pathsep + os.environ["PATH"])
         self.folder = folder
         self.process = subprocess.Popen([program], env=self.env)
         if wait_for_main:
             self.await_main()
+
+    @staticmethod
+    def browser(folder):
+        """A folder with a browser that only notes which page it is given, one a line, in pages.txt."""
+        programs = os.path.join(folder, "bin")
+        os.makedirs(programs, exist_ok=True)
+        path = os.path.join(programs, "xdg-open")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(f'#!/bin/sh\necho "$1" >> "{folder}/pages.txt"\n')
+        os.chmod(path, 0o755)
+        return programs
 
     def await_main(self):
         self.main = self.window("Hoard Hustle v")
@@ -110,6 +122,19 @@ class Machine:
         y = top + height - room + (room - panel[1] * scale) / 2 + y * scale
         self.xdo("mousemove", round(x), round(y), "click", 1)
         time.sleep(0.15)
+
+    def page_opened(self, page, seconds=10):
+        """Waits until the browser has been sent to a page of that name, and gives its file."""
+        pages = os.path.join(self.folder, "pages.txt")
+        end = time.time() + seconds
+        while time.time() < end:
+            if os.path.exists(pages):
+                with open(pages, encoding="utf-8") as file:
+                    for address in file.read().split():
+                        if address.endswith(page):
+                            return urllib.parse.unquote(address.removeprefix("file://"))
+            time.sleep(0.05)
+        raise AssertionError(f"no browser was sent to {page}")
 
     def end(self, seconds=10):
         """Waits for the program's own end, which must be a good one."""
