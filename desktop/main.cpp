@@ -1,4 +1,4 @@
-#include "desktop/session.h"
+#include "desktop/session/session.h"
 
 #include <QApplication>
 

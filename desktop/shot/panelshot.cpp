@@ -2,8 +2,7 @@
 //   panelshot SCRIPT SCREEN PICTURE.png [WIDTH]
 // The pictures of the help pages and of the README are made so, and anyone can look at a state of
 // the machine without playing up to it.
-#include "desktop/painting.h"
-#include "desktop/places.h"
+#include "desktop/painting/painting.h"
 #include "script/commands.h"
 
 #include <QGuiApplication>
@@ -12,7 +11,9 @@
 
 #include <cmath>
 #include <cstdio>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 
 namespace {
 
@@ -60,14 +61,15 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const screen_row* const what = screen_named(argv[2]);
-    const auto script = desktop::read_file(QString::fromLocal8Bit(argv[1]));
+    std::ifstream file(argv[1], std::ios::binary);
+    const std::string script(std::istreambuf_iterator<char>(file), {});
     const int width = argc > 4 ? QString::fromLocal8Bit(argv[4]).toInt() : 800;
-    if (what == nullptr || !script || width < 100 || width > 8000) {
+    if (what == nullptr || !file || width < 100 || width > 8000) {
         std::fputs("panelshot: no such screen or script, or a width outside 100 to 8000\n", stderr);
         return 2;
     }
     bool saved = false;
-    const int status = script::run_script(*script, argv[1], std::cout, std::cerr, [&](const game& g) {
+    const int status = script::run_script(script, argv[1], std::cout, std::cerr, [&](const game& g) {
         saved = painted(g.p, what->id, width).save(QString::fromLocal8Bit(argv[3]));
     });
     if (status == 0 && !saved)

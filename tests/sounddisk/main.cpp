@@ -1,6 +1,6 @@
 // Plays a wave and the tune into a file instead of a device, and listens to what was written.
 // Usage: sounddisk FOLDER-OF-SOUNDS RAW-FILE-TO-WRITE
-#include "desktop/sound.h"
+#include "desktop/platform/sound.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,9 +1,9 @@
 // The parts of the window that need no screen: its clock, its files, its names and its letters.
+#include "art/dotfont.h"
 #include "core/start.h"
-#include "desktop/clock.h"
-#include "desktop/dotfont.h"
-#include "desktop/places.h"
-#include "desktop/spokennames.h"
+#include "desktop/platform/places.h"
+#include "desktop/session/clock.h"
+#include "desktop/window/spokennames.h"
 #include "panel/sheet.h"
 #include "panel/stillworld.h"
 #include "screens/dispatch.h"

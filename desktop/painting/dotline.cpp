@@ -1,7 +1,7 @@
-#include "desktop/dotline.h"
+#include "desktop/painting/dotline.h"
 
-#include "desktop/colours.h"
-#include "desktop/dotfont.h"
+#include "art/dotfont.h"
+#include "desktop/painting/colours.h"
 
 #include <algorithm>
 #include <cmath>

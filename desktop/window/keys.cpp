@@ -1,4 +1,4 @@
-#include "desktop/keys.h"
+#include "desktop/window/keys.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

@@ -1,12 +1,10 @@
-#include "desktop/dotfont.h"
-
-#include <QChar>
-#include <QString>
+#include "art/dotfont.h"
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
-namespace hustle::desktop {
+namespace hustle {
 
 namespace {
 
@@ -71,6 +69,21 @@ constexpr glyph font[] = {
     {U'\u202F', {0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00}}, {U'\u20AC', {0x07, 0x08, 0x1E, 0x08, 0x1E, 0x08, 0x07}},
     {U'\u2212', {0x00, 0x00, 0x00, 0x1F, 0x00, 0x00, 0x00}},
 };
+
+// The plain letter of each one with accents, from `first` on; a dot where there is none.
+struct accented {
+    char32_t first;
+    std::string_view plain;
+};
+constexpr accented accents[] = {
+    {0xC0, "AAAAAA.CEEEEIIII.NOOOOO..UUUUY..aaaaaa.ceeeeiiii.nooooo..uuuuy.y"
+           "AaAaAaCcCcCcCcDd..EeEeEeEeEeGgGgGgGgHh..IiIiIiIiI...JjKk.LlLlLl."
+           "...NnNnNn...OoOoOo..RrRrRrSsSsSsSsTtTt..UuUuUuUuUuUuWwYyYZzZzZz."},
+    {0x1E00, "AaBbBbBbCcDdDdDdDdDdEeEeEeEeEeFfGgHhHhHhHhHhIiIiKkKkKkLlLlLlLlMm"
+             "MmMmNnNnNnNnOoOoOoOoPpPpRrRrRrRrSsSsSsSsSsTtTtTtTtUuUuUuUuUuVvVv"
+             "WwWwWwWwWwXxXxYyZzZzZzhtwy......AaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEe"
+             "EeEeEeEeIiIiOoOoOoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYy......"},
+};
 // clang-format on
 
 const glyph* find(char32_t letter) {
@@ -84,11 +97,11 @@ const glyph* find(char32_t letter) {
 const glyph& glyph_of(char32_t letter) {
     if (const glyph* g = find(letter))
         return *g;
-    const QString parts = QChar::decomposition(letter); // a letter and its accent
-    if (!parts.isEmpty())
-        if (const glyph* g = find(parts.at(0).unicode()))
-            return *g;
+    for (const accented& block : accents)
+        if (letter >= block.first && letter - block.first < block.plain.size())
+            if (const char plain = block.plain[letter - block.first]; plain != '.')
+                return *find(static_cast<char32_t>(plain));
     return unknown;
 }
 
-} // namespace hustle::desktop
+} // namespace hustle

@@ -1,8 +1,8 @@
-#include "desktop/spokenviews.h"
+#include "desktop/window/spokenviews.h"
 
-#include "desktop/screenview.h"
-#include "desktop/session.h"
-#include "desktop/spokennames.h"
+#include "desktop/session/session.h"
+#include "desktop/window/screenview.h"
+#include "desktop/window/spokennames.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,7 +27,7 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFocusPolicy(Qt::TabFocus);
         QObject::connect(this, &QPushButton::clicked, this, [this] {
-            send(view.machine, {input::kind::press, row(id).where, id});
+            send(view.played, {input::kind::press, row(id).where, id});
         });
     }
 
@@ -72,13 +72,13 @@ bool is_drawn_text(element e) { return e != element::Entername_Text1; }
 // A disabled button would pass its focus on to its neighbour; the screen keeps it safe instead and
 // gives it back as soon as the button is live again.
 void keep_focus(spoken_views& views, screenview& view, spoken_view& v) {
-    const bool live = is_enabled(view.machine.g.p, v.id) && is_visible(view.machine.g.p, v.id);
+    const bool live = is_enabled(view.played.g.p, v.id) && is_visible(view.played.g.p, v.id);
     if (!live && v.child->hasFocus()) {
         views.resting = v.id;
         view.setFocus(Qt::OtherFocusReason);
     }
-    v.child->setVisible(is_visible(view.machine.g.p, v.id));
-    v.child->setEnabled(is_enabled(view.machine.g.p, v.id));
+    v.child->setVisible(is_visible(view.played.g.p, v.id));
+    v.child->setEnabled(is_enabled(view.played.g.p, v.id));
     if (live && views.resting == v.id) {
         if (view.hasFocus())
             v.child->setFocus(Qt::TabFocusReason);
@@ -87,10 +87,10 @@ void keep_focus(spoken_views& views, screenview& view, spoken_view& v) {
 }
 
 void listen(spoken_views& views, screenview& view) {
-    const qint64 now = view.machine.real.elapsed();
+    const qint64 now = view.played.real.elapsed();
     std::erase_if(views.changed, [&](std::size_t index) {
         spoken_view& v = views.all[index];
-        const QString name = spoken_name(view.machine.g, v.id);
+        const QString name = spoken_name(view.played.g, v.id);
         if (!name.isEmpty() && name != v.coming) { // the dark frame of a flashing text is nothing new
             v.coming = name;
             v.since = now;
@@ -114,7 +114,7 @@ void make_spoken(spoken_views& views, screenview& view) {
     views.listener = new QTimer(&view);
     QObject::connect(views.listener, &QTimer::timeout, &view, [&] { listen(views, view); });
     for (const element_row& r : elements_of(view.shown_screen())) {
-        const QString name = spoken_name(view.machine.g, r.id);
+        const QString name = spoken_name(view.played.g, r.id);
         if (r.what == kind::entry || !is_drawn_text(r.id) || (name.isEmpty() && r.what != kind::line))
             continue;
         QWidget* child = nullptr;
@@ -124,8 +124,8 @@ void make_spoken(spoken_views& views, screenview& view) {
             child = new QLabel(&view);
         child->setAttribute(Qt::WA_TransparentForMouseEvents);
         child->setAccessibleName(name);
-        child->setVisible(is_visible(view.machine.g.p, r.id));
-        child->setEnabled(is_enabled(view.machine.g.p, r.id));
+        child->setVisible(is_visible(view.played.g.p, r.id));
+        child->setEnabled(is_enabled(view.played.g.p, r.id));
         views.all.push_back({r.id, child, name});
     }
     place_spoken(views, view);
@@ -144,12 +144,12 @@ void tell_changed(spoken_views& views, screenview& view, element e) {
     keep_focus(views, view, *found);
     if (found->pending)
         return;
-    const QString name = spoken_name(view.machine.g, e);
+    const QString name = spoken_name(view.played.g, e);
     if (name.isEmpty() || name == found->coming)
         return;
     found->pending = true;
     found->coming = name;
-    found->since = view.machine.real.elapsed();
+    found->since = view.played.real.elapsed();
     views.changed.push_back(static_cast<std::size_t>(found - views.all.begin()));
     if (!views.listener->isActive())
         views.listener->start(listen_ms);

@@ -1,4 +1,4 @@
-#include "desktop/sound.h"
+#include "desktop/platform/sound.h"
 
 #include "panel/sheet.h"
 

@@ -1,7 +1,8 @@
-#include "desktop/painting.h"
+#include "desktop/painting/painting.h"
 
-#include "desktop/colours.h"
-#include "desktop/lettering.h"
+#include "art/lamplooks.h"
+#include "desktop/painting/colours.h"
+#include "desktop/painting/lettering.h"
 
 #include <QLinearGradient>
 

@@ -1,10 +1,10 @@
-#include "desktop/qtworld.h"
+#include "desktop/session/qtworld.h"
 
-#include "desktop/mainwindow.h"
-#include "desktop/places.h"
-#include "desktop/session.h"
-#include "desktop/sound.h"
-#include "desktop/systeminfo.h"
+#include "desktop/platform/places.h"
+#include "desktop/platform/sound.h"
+#include "desktop/platform/systeminfo.h"
+#include "desktop/session/session.h"
+#include "desktop/window/mainwindow.h"
 #include "panel/sheet.h"
 #include "panel/splitmix.h"
 

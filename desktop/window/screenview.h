@@ -2,8 +2,8 @@
 // aspect kept, and gives the mouse and the keyboard to the machine.
 #pragma once
 
-#include "desktop/painting.h"
-#include "desktop/spokenviews.h"
+#include "desktop/painting/painting.h"
+#include "desktop/window/spokenviews.h"
 
 #include <QLineEdit>
 #include <QTimer>
@@ -34,7 +34,7 @@ public:
     QRect device_rect(element) const;
     QRect widget_rect(element) const;
 
-    session& machine;
+    session& played;
 
 protected:
     bool event(QEvent*) override;
@@ -54,8 +54,8 @@ private:
     void make_text_boxes();
     void place_children();
     void set_held(element);
-    void follow_line(element);
-    void run_on();
+    void follow(element);
+    void move_line();
     bool draw_now(art, element on);
 
     const hustle::screen what;
@@ -65,9 +65,8 @@ private:
     dot_store dots;
     lamp_store lamps;
     QTimer settled;
-    running_line running; // the belt on its way
+    running_line running; // a line on its way
     QTimer running_step;
-    QString last_line;             // what the board's line showed before
     element held = element::total; // the button under a mouse key that is down
     std::vector<std::pair<element, QLineEdit*>> text_boxes;
     spoken_views spoken;

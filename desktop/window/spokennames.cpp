@@ -1,7 +1,9 @@
-#include "desktop/spokennames.h"
+#include "desktop/window/spokennames.h"
 
-#include "desktop/painting.h"
+#include "art/lamplooks.h"
 #include "panel/sheet.h"
+
+#include <QStringList>
 
 namespace hustle::desktop {
 

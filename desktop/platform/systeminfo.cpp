@@ -1,7 +1,7 @@
-#include "desktop/systeminfo.h"
+#include "desktop/platform/systeminfo.h"
 
 #include "core/game.h"
-#include "desktop/sound.h"
+#include "desktop/platform/sound.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-namespace hustle::desktop {
+namespace hustle {
 
 inline constexpr int glyph_columns = 5;
 inline constexpr int glyph_rows = 7;
@@ -19,4 +19,4 @@ struct glyph {
 // is an empty box.
 const glyph& glyph_of(char32_t letter);
 
-} // namespace hustle::desktop
+} // namespace hustle

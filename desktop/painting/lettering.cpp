@@ -1,4 +1,4 @@
-#include "desktop/lettering.h"
+#include "desktop/painting/lettering.h"
 
 #include <QFont>
 #include <QFontMetricsF>

@@ -1,4 +1,4 @@
-#include "desktop/pictures.h"
+#include "desktop/painting/pictures.h"
 
 #include "art/art.h"
 

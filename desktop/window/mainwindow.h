@@ -1,7 +1,7 @@
 // The window of main and of the feature board, with the menu bar.
 #pragma once
 
-#include "desktop/screenview.h"
+#include "desktop/window/screenview.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -31,7 +31,7 @@ private:
     void make_menus();
     void refresh_menus();
 
-    session& machine;
+    session& played;
     QStackedWidget* stack;
     screenview* on_main;
     screenview* on_board = nullptr;

@@ -1,21 +1,20 @@
-#include "desktop/lamplooks.h"
+#include "art/lamplooks.h"
 
 #include "art/lamps.h"
-#include "desktop/colours.h"
-
-#include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 #include <vector>
 
-namespace hustle::desktop {
+namespace hustle {
 
 namespace {
 
 constexpr colour resting_label = 0xFFFFC0; // of the eight labels in the ring
-constexpr double given_up = 0.35;          // how much of a disabled lamp is left to see
+
+int red(colour c) { return static_cast<int>(c & 0xFF); }
+int green(colour c) { return static_cast<int>((c >> 8) & 0xFF); }
+int blue(colour c) { return static_cast<int>((c >> 16) & 0xFF); }
 
 bool is_ring_label(const element_row& r) { return r.where == screen::feature && r.back == 0; }
 
@@ -30,8 +29,7 @@ const ink::jewel& glass(const element_row& r, const element_state& state, bool l
         return lit ? ink::ruby : ink::teal;
     if (is_goal(r.id))
         return ink::amber;
-    const QColor back = from_bgr(state.back);
-    return back.blue() > back.red() ? ink::sapphire : ink::ruby;
+    return blue(state.back) > red(state.back) ? ink::sapphire : ink::ruby;
 }
 
 // The lettering has capitals, and a sign of its own for the pound.
@@ -54,7 +52,19 @@ std::vector<std::string> rows_of(const std::string& words, double height) {
     return {words.substr(0, blank), words.substr(blank + 1)};
 }
 
-std::string lamp_svg(const element_row& r, const element_state& state, bool lit) {
+} // namespace
+
+bool is_lamp(const element_row& r) { return r.what == kind::label && (r.back != 0 || is_ring_label(r)); }
+
+bool is_lit(const element_row& r, const element_state& state) {
+    if (is_ring_label(r))
+        return state.fore != resting_label;
+    const auto [least, most] = std::minmax({red(state.fore), green(state.fore), blue(state.fore)});
+    return least + most > 201; // the letters of a dark lamp are black
+}
+
+std::string lamp_svg(const element_row& r, const element_state& state) {
+    const bool lit = is_lit(r, state);
     const double width = r.place.width / 15.0;
     const double height = r.place.height / 15.0;
     constexpr double reach = glow_reach;
@@ -77,45 +87,4 @@ std::string lamp_svg(const element_row& r, const element_state& state, bool lit)
     return finish(p);
 }
 
-QPixmap draw_pixmap(const element_row& r, const element_state& state, bool lit, QSize size) {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    const std::string text = lamp_svg(r, state, lit);
-    QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
-    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    return pixmap;
-}
-
-} // namespace
-
-bool is_lamp(const element_row& r) { return r.what == kind::label && (r.back != 0 || is_ring_label(r)); }
-
-bool is_lit(const element_row& r, const element_state& state) {
-    if (is_ring_label(r))
-        return state.fore != resting_label;
-    return from_bgr(state.fore).lightness() > 100; // the letters of a dark lamp are black
-}
-
-void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const element_state& state,
-               QRect box, double pixel) {
-    const bool lit = is_lit(r, state);
-    const int reach = static_cast<int>(std::lround(glow_reach * pixel));
-    const QRect whole = box.adjusted(-reach, -reach, reach, reach);
-    const QString key = QString("%1 %2 %3 %4 %5")
-                            .arg(QString::fromStdString(state.text))
-                            .arg(lit ? state.fore : 0)
-                            .arg(state.back)
-                            .arg(whole.width())
-                            .arg(whole.height());
-    auto found = store.drawn.constFind(key);
-    if (found == store.drawn.cend())
-        found = store.drawn.insert(key, draw_pixmap(r, state, lit, whole.size()));
-    painter.setOpacity(state.enabled ? 1 : given_up);
-    painter.drawPixmap(whole.topLeft(), *found);
-    painter.setOpacity(1);
-}
-
-} // namespace hustle::desktop
+} // namespace hustle

@@ -1,7 +1,7 @@
-#include "desktop/mainwindow.h"
+#include "desktop/window/mainwindow.h"
 
-#include "desktop/keys.h"
-#include "desktop/session.h"
+#include "desktop/session/session.h"
+#include "desktop/window/keys.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -29,7 +29,7 @@ QString with_mnemonic(QString caption, QString& taken) {
 
 } // namespace
 
-mainwindow::mainwindow(session& s) : machine(s), stack(new QStackedWidget(this)) {
+mainwindow::mainwindow(session& s) : played(s), stack(new QStackedWidget(this)) {
     on_main = new screenview(s, hustle::screen::main, stack);
     stack->addWidget(on_main);
     stack->setMinimumSize(400, 281);
@@ -39,7 +39,7 @@ mainwindow::mainwindow(session& s) : machine(s), stack(new QStackedWidget(this))
 
 screenview& mainwindow::board_view() {
     if (on_board == nullptr) {
-        on_board = new screenview(machine, hustle::screen::feature, stack);
+        on_board = new screenview(played, hustle::screen::feature, stack);
         stack->addWidget(on_board);
         on_board->resize(stack->size());
     }
@@ -77,7 +77,7 @@ void mainwindow::make_menus() {
         QAction* action = menu->addAction(with_mnemonic(words(row(r.entry).text), taken));
         action->setCheckable(title == "Options");
         QObject::connect(action, &QAction::triggered, this, [this, e = r.entry] {
-            send(machine, {input::kind::press, hustle::screen::main, e});
+            send(played, {input::kind::press, hustle::screen::main, e});
             refresh_menus(); // the toolkit has moved the tick by itself
         });
         entries.emplace_back(r.entry, action);
@@ -86,7 +86,7 @@ void mainwindow::make_menus() {
 
 void mainwindow::refresh_menus() {
     for (const auto& [e, action] : entries) {
-        element_state& state = at(machine.g.p, e);
+        element_state& state = at(played.g.p, e);
         state.touched = false;
         action->setEnabled(state.enabled);
         action->setVisible(state.visible);
@@ -96,11 +96,11 @@ void mainwindow::refresh_menus() {
 }
 
 screen mainwindow::shown_screen() const {
-    return is_loaded(machine.g.p, hustle::screen::feature) ? hustle::screen::feature : hustle::screen::main;
+    return is_loaded(played.g.p, hustle::screen::feature) ? hustle::screen::feature : hustle::screen::main;
 }
 
 void mainwindow::refresh() {
-    const panel& p = machine.g.p;
+    const panel& p = played.g.p;
     for (const auto& [e, action] : entries)
         if (at(p, e).touched) {
             refresh_menus();
@@ -120,21 +120,21 @@ void mainwindow::refresh() {
 
 bool mainwindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
-        activated(machine, shown_screen());
+        activated(played, shown_screen());
     return QMainWindow::event(event);
 }
 
 // Only the machine's own way out ends the program; the board has none.
 void mainwindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    send(machine, {input::kind::close, shown_screen()});
+    send(played, {input::kind::close, shown_screen()});
 }
 
 // Keys reach the machine whatever has the focus in its window.
 void mainwindow::keyPressEvent(QKeyEvent* event) {
     const int code = event->isAutoRepeat() ? 0 : machine_key(*event);
     if (code != 0)
-        send(machine, {input::kind::key, shown_screen(), element::total, code});
+        send(played, {input::kind::key, shown_screen(), element::total, code});
     else
         event->ignore();
 }

@@ -1,4 +1,4 @@
-#include "desktop/places.h"
+#include "desktop/platform/places.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,9 +1,10 @@
 // How each kind of element looks. Everything is in device pixels.
 #pragma once
 
-#include "desktop/dotline.h"
-#include "desktop/lamplooks.h"
-#include "desktop/pictures.h"
+#include "desktop/painting/dotline.h"
+#include "desktop/painting/lamplooks.h"
+#include "desktop/painting/pictures.h"
+#include "desktop/painting/runningline.h"
 #include "panel/sheet.h"
 
 #include <QColor>
@@ -11,13 +12,6 @@
 #include <QRect>
 
 namespace hustle::desktop {
-
-// A line whose text runs to the left by a letter at a tick: between two ticks it moves dot by dot.
-struct running_line {
-    element on = element::total; // total: none runs
-    QString before;              // the text before the last tick
-    int run = 0;                 // columns of dots that it has moved since
-};
 
 struct canvas {
     QPainter& painter;

@@ -4,8 +4,8 @@
 // The machine's clock follows the real one. It stands while a message box is open.
 #pragma once
 
-#include "desktop/clock.h"
-#include "desktop/qtworld.h"
+#include "desktop/session/clock.h"
+#include "desktop/session/qtworld.h"
 #include "screens/dispatch.h"
 
 #include <QElapsedTimer>

@@ -1,8 +1,8 @@
-#include "desktop/session.h"
+#include "desktop/session/session.h"
 
 #include "core/start.h"
-#include "desktop/mainwindow.h"
-#include "desktop/sound.h"
+#include "desktop/platform/sound.h"
+#include "desktop/window/mainwindow.h"
 
 #include <QApplication>
 #include <QMenuBar>

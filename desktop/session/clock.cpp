@@ -1,4 +1,4 @@
-#include "desktop/clock.h"
+#include "desktop/session/clock.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "desktop/screenview.h"
+#include "desktop/window/screenview.h"
 
-#include "desktop/colours.h"
-#include "desktop/keys.h"
-#include "desktop/session.h"
+#include "art/lamplooks.h"
+#include "desktop/session/session.h"
+#include "desktop/window/keys.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -32,7 +32,7 @@ input pressed(element e) { return {input::kind::press, row(e).where, e}; }
 } // namespace
 
 screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
-    : QWidget(parent), machine(s), what(shown) {
+    : QWidget(parent), played(s), what(shown) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::ClickFocus);
     setMouseTracking(true);
@@ -44,10 +44,10 @@ screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
         next_row = 0;
         next_group = 0;
         update();
-        draw_ahead(machine);
+        draw_ahead(played);
     });
     running_step.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&running_step, &QTimer::timeout, this, [this] { run_on(); });
+    QObject::connect(&running_step, &QTimer::timeout, this, [this] { move_line(); });
     make_text_boxes();
 }
 
@@ -70,7 +70,7 @@ QRect screenview::device_rect(element e) const {
     const hustle::rect& place = row(e).place;
     const double twip = scale / twips_to_pixel;
     const auto pixels = [twip](int twips) { return static_cast<int>(std::lround(twips * twip)); };
-    return {origin.x() + pixels(place.left), origin.y() + pixels(at(machine.g.p, e).top),
+    return {origin.x() + pixels(place.left), origin.y() + pixels(at(played.g.p, e).top),
             std::max(1, pixels(place.width)), std::max(1, pixels(place.height))};
 }
 
@@ -88,45 +88,39 @@ QRect screenview::dirty_rect(element e) const {
     return widget_rect(e).adjusted(-reach, -reach, reach, reach);
 }
 
-// A text that is the last one without its first letter has run on by one: the belt. It moves there
-// dot by dot until its next tick. Any other text stands at once.
-void screenview::follow_line(element e) {
-    const QString text = QString::fromStdString(at(machine.g.p, e).text);
-    const bool runs =
-        text.size() >= line_cells && last_line.size() == text.size() + 1 && last_line.endsWith(text);
-    running = runs ? running_line{e, last_line, 1} : running_line{};
-    if (runs)
-        running_step.start(interval(machine.g.p, timer::feature_moneybelttimer) / cell_columns);
-    else
+void screenview::follow(element e) {
+    follow_line(running, played.g.p, e);
+    if (running.on == e)
+        running_step.start(running.step_ms);
+    else if (running.on == element::total)
         running_step.stop();
-    last_line = text;
 }
 
-void screenview::run_on() {
-    if (++running.run >= cell_columns) {
-        running = running_line{};
+void screenview::move_line() {
+    const element e = running.on;
+    run_on(running);
+    if (running.on == element::total)
         running_step.stop();
-    }
-    update(widget_rect(element::feature_displayline));
+    update(widget_rect(e));
 }
 
 void screenview::refresh() {
     std::size_t index = 0;
     for (const element_row& r : elements_of(what)) {
         QRect& before = drawn[index++];
-        element_state& state = at(machine.g.p, r.id);
+        element_state& state = at(played.g.p, r.id);
         if (!state.touched || r.what == kind::entry)
             continue;
         state.touched = false;
-        if (r.id == element::feature_displayline)
-            follow_line(r.id);
+        if (r.what == kind::line)
+            follow(r.id);
         const QRect now = dirty_rect(r.id);
         update(before == now ? now : before.united(now));
         before = now;
         tell_changed(spoken, *this, r.id);
     }
     for (const auto& [e, box] : text_boxes) {
-        const QString text = QString::fromStdString(at(machine.g.p, e).text);
+        const QString text = QString::fromStdString(at(played.g.p, e).text);
         if (box->text() != text)
             box->setText(text);
     }
@@ -145,11 +139,11 @@ void screenview::paintEvent(QPaintEvent* event) {
         for (const element_row& r : elements_of(what))
             if ((r.what == kind::picture) == pictures_first && !is_edited(r.id) &&
                 region.intersects(dirty_rect(r.id)))
-                draw_element(c, machine.g.p, r.id, device_rect(r.id), r.id == held);
+                draw_element(c, played.g.p, r.id, device_rect(r.id), r.id == held);
     has_painted = true;
-    if (!machine.seen) {
-        machine.seen = true;
-        first_painted(machine);
+    if (!played.seen) {
+        played.seen = true;
+        first_painted(played);
     }
 }
 
@@ -171,7 +165,7 @@ void screenview::resizeEvent(QResizeEvent*) {
 bool screenview::draw_now(art a, element on) {
     if (a == art::none)
         return false;
-    if (machine.g.p.dollars)
+    if (played.g.p.dollars)
         a = dollar_version(a);
     const auto before = pictures.sharp.size();
     picture(pictures, a, device_rect(on).size());
@@ -201,7 +195,7 @@ bool screenview::draw_one_ahead() {
 element screenview::under(QPoint point) const {
     element found = element::total;
     for (const element_row& r : elements_of(what))
-        if (takes_mouse(r) && is_visible(machine.g.p, r.id) && widget_rect(r.id).contains(point))
+        if (takes_mouse(r) && is_visible(played.g.p, r.id) && widget_rect(r.id).contains(point))
             found = r.id;
     return found;
 }
@@ -221,10 +215,10 @@ void screenview::mousePressEvent(QMouseEvent* event) {
     const bool acts_at_once = row(e).what == kind::button;
     if (!acts_at_once && event->button() != Qt::LeftButton)
         return;
-    if (is_enabled(machine.g.p, e))
+    if (is_enabled(played.g.p, e))
         set_held(e);
     if (acts_at_once)
-        send(machine, pressed(e));
+        send(played, pressed(e));
 }
 
 void screenview::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -233,12 +227,12 @@ void screenview::mouseReleaseEvent(QMouseEvent* event) {
     const element e = held;
     set_held(element::total);
     if (e != element::total && row(e).what != kind::button && under(event->position().toPoint()) == e)
-        send(machine, pressed(e));
+        send(played, pressed(e));
 }
 
 void screenview::mouseMoveEvent(QMouseEvent* event) {
     const element e = under(event->position().toPoint());
-    const bool live = e != element::total && is_enabled(machine.g.p, e);
+    const bool live = e != element::total && is_enabled(played.g.p, e);
     const Qt::CursorShape shape = live ? Qt::PointingHandCursor : Qt::ArrowCursor;
     if (cursor().shape() != shape)
         setCursor(shape);
@@ -247,7 +241,7 @@ void screenview::mouseMoveEvent(QMouseEvent* event) {
 void screenview::keyPressEvent(QKeyEvent* event) {
     const int code = event->isAutoRepeat() ? 0 : machine_key(*event);
     if (code != 0) {
-        send(machine, {input::kind::key, what, element::total, code});
+        send(played, {input::kind::key, what, element::total, code});
         return;
     }
     const bool may_leave =
@@ -261,12 +255,12 @@ void screenview::keyPressEvent(QKeyEvent* event) {
 // The machine decides whether a window closes; it is taken away when its screen is unloaded.
 void screenview::closeEvent(QCloseEvent* event) {
     event->ignore();
-    send(machine, {input::kind::close, what});
+    send(played, {input::kind::close, what});
 }
 
 bool screenview::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && isWindow())
-        activated(machine, what);
+        activated(played, what);
     return QWidget::event(event);
 }
 
@@ -276,13 +270,13 @@ void screenview::make_text_boxes() {
             continue;
         auto* box = new QLineEdit(this);
         box->setAccessibleName("Your name");
-        box->setText(QString::fromStdString(at(machine.g.p, r.id).text));
+        box->setText(QString::fromStdString(at(played.g.p, r.id).text));
         box->selectAll();
         box->setStyleSheet("QLineEdit { background: #0e0b12; color: #ffe8be; border: 2px solid #d4b060;"
                            " border-radius: 4px; padding: 0 4px; selection-background-color: #84508c; }");
         QObject::connect(box, &QLineEdit::textEdited, this, [this, e = r.id](const QString& text) {
             const std::string typed = text.toStdString();
-            send(machine, {input::kind::type, what, e, 0, typed});
+            send(played, {input::kind::type, what, e, 0, typed});
         });
         setFocusProxy(box);
         text_boxes.emplace_back(r.id, box);

@@ -1,0 +1,48 @@
+#include "desktop/painting/lamplooks.h"
+
+#include "art/lamplooks.h"
+
+#include <QSvgRenderer>
+
+#include <cmath>
+
+namespace hustle::desktop {
+
+namespace {
+
+constexpr double given_up = 0.35; // how much of a disabled lamp is left to see
+
+QPixmap draw_pixmap(const element_row& r, const element_state& state, QSize size) {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    const std::string text = lamp_svg(r, state);
+    QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
+    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    return pixmap;
+}
+
+} // namespace
+
+void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const element_state& state,
+               QRect box, double pixel) {
+    const bool lit = is_lit(r, state);
+    const int reach = static_cast<int>(std::lround(glow_reach * pixel));
+    const QRect whole = box.adjusted(-reach, -reach, reach, reach);
+    const QString key = QString("%1 %2 %3 %4 %5")
+                            .arg(QString::fromStdString(state.text))
+                            .arg(lit ? state.fore : 0)
+                            .arg(state.back)
+                            .arg(whole.width())
+                            .arg(whole.height());
+    auto found = store.drawn.constFind(key);
+    if (found == store.drawn.cend())
+        found = store.drawn.insert(key, draw_pixmap(r, state, whole.size()));
+    painter.setOpacity(state.enabled ? 1 : given_up);
+    painter.drawPixmap(whole.topLeft(), *found);
+    painter.setOpacity(1);
+}
+
+} // namespace hustle::desktop
