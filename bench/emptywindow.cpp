@@ -1,7 +1,6 @@
-// What the toolkit itself needs: an empty main window that tells when it has been painted.
+// What the toolkit itself needs: an empty main window that tells when it has been painted, and stays open.
 #include <QApplication>
 #include <QMainWindow>
-#include <QTimer>
 
 #include <cstdio>
 
@@ -12,7 +11,6 @@ protected:
     void paintEvent(QPaintEvent*) override {
         std::puts("first frame");
         std::fflush(stdout);
-        QTimer::singleShot(0, this, [] { QCoreApplication::exit(0); });
     }
 };
 

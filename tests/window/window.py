@@ -24,12 +24,15 @@ def skip_without_tools():
 
 
 class Display:
-    """A virtual screen of its own."""
+    """A virtual screen of its own, so many pixels wide and high."""
+
+    def __init__(self, size="1280x1024"):
+        self.size = size
 
     def __enter__(self):
         read_end, write_end = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp"],
             pass_fds=(write_end,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as answer:
