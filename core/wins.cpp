@@ -18,17 +18,6 @@ constexpr single mixed_sevens = 1.60f;
 
 bool is_seven(word symbol) { return symbol == "rseven" || symbol == "bseven"; }
 
-// What stands on the win line; 0 where it is no line.
-single line_prize(const machine& m) {
-    if (m.reel1sym == m.reel2sym && m.reel2sym == m.reel3sym) {
-        for (const line_row& row : lines)
-            if (row.symbol == m.reel1sym)
-                return row.prize;
-        return 0;
-    }
-    return is_seven(m.reel1sym) && is_seven(m.reel2sym) && is_seven(m.reel3sym) ? mixed_sevens : 0;
-}
-
 bool any_two_show(const machine& m, word symbol) {
     return (m.reel1sym == symbol) + (m.reel2sym == symbol) + (m.reel3sym == symbol) >= 2;
 }
@@ -43,6 +32,16 @@ bool any_pair(const machine& m) {
 bool forms_pair(word a, word b) {
     const auto tail = [](word w) { return w.substr(w.size() > 3 ? w.size() - 3 : 0); };
     return tail(a) == tail(b);
+}
+
+single line_prize(const machine& m) {
+    if (m.reel1sym == m.reel2sym && m.reel2sym == m.reel3sym) {
+        for (const line_row& row : lines)
+            if (row.symbol == m.reel1sym)
+                return row.prize;
+        return 0;
+    }
+    return is_seven(m.reel1sym) && is_seven(m.reel2sym) && is_seven(m.reel3sym) ? mixed_sevens : 0;
 }
 
 void checkline(game& g) {

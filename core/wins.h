@@ -6,6 +6,8 @@
 namespace hustle {
 
 bool forms_pair(word, word); // the last three letters agree: a red and a blue seven pair
+// What the three symbols on the win line pay, in pounds; 0 where they are no line.
+single line_prize(const machine&);
 void checkline(game&);
 void offerholds(game&);
 void offerdontholdany(game&);

@@ -1,0 +1,161 @@
+#include "show/hints.h"
+
+#include "board/board.h"
+#include "core/play.h"
+#include "panel/text.h"
+
+#include <algorithm>
+
+namespace hustle {
+
+namespace {
+
+using enum element;
+
+bool runs(const game& g, timer t) { return is_running(g.p, t); }
+bool live(const game& g, element e) { return is_enabled(g.p, e) && is_visible(g.p, e); }
+
+template <std::size_t n> bool any_runs(const game& g, const timer (&timers)[n]) {
+    return std::any_of(std::begin(timers), std::end(timers), [&](timer t) { return runs(g, t); });
+}
+
+// What the stop button of main stops: the first of these that runs.
+struct stop_hint {
+    timer running;
+    std::string_view text;
+};
+constexpr stop_hint main_stops[] = {
+    {timer::skill_nudges, "The figure counts 1 to 5: Space takes it as your nudges"},
+    {timer::pseudo_nudges, "The figure jumps: Space takes it as your nudges"},
+    {timer::rollem, "Space stops the roll"},
+    {timer::selector, "The trail jumps: Space keeps it where it stands"},
+    {timer::trailstopper, "Space stops the light on the trail"},
+    {timer::trailskill, "Space stops the light on the trail; C slows it"},
+    {timer::trailclimb, "Space stops the light: climb as far as you can"},
+    {timer::bonus_timer, "Space takes the award that the line names"},
+    {timer::yes_no, "Space stops YES and NO: YES gives it once more"},
+};
+
+std::string_view stopper_hint(const game& g) {
+    for (const stop_hint& s : main_stops)
+        if (runs(g, s.running))
+            return s.text;
+    return "Space stops";
+}
+
+constexpr timer reels[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3,    timer::spinreel1,
+                           timer::spinreel2, timer::spinreel3, timer::start_spin_in};
+
+bool any_held(const machine& m) {
+    return m.reel1held == "yes" || m.reel2held == "yes" || m.reel3held == "yes";
+}
+
+std::string_view offer_hint(const game& g) {
+    const machine& m = g.m;
+    if (m.badholdmade == "true")
+        return "A hold breaks the promise of a win: C takes it back; Space plays";
+    if (m.holdsbarred == "true")
+        return "Hold nothing: Space spins free, and the reels make a win";
+    if (m.linepromised == "true")
+        return "Hold nothing more: Space spins free, and the reels make a win";
+    if (any_held(m))
+        return "1 2 3 hold a reel, C clears the holds; Space plays";
+    return "Hold lamps flash: 1 2 3 hold a reel; Space plays";
+}
+
+// With no play left and the machine free.
+std::string_view empty_hint(const game& g) {
+    const machine& m = g.m;
+    if (m.bank > 0.1f)
+        return g.p.dollars ? "No credits: 0 turns $1 of the bank into four plays"
+                           : "No credits: 0 turns £1 of the bank into four plays";
+    return "No credits and no bank: Game, New";
+}
+
+std::string_view main_hint(const game& g) {
+    const machine& m = g.m;
+    if (live(g, stopper))
+        return stopper_hint(g);
+    if (runs(g, timer::reelskill))
+        return "1 stops reel 1";
+    if (runs(g, timer::reelskill2))
+        return "3 stops reel 3: on the symbol of reel 1 it wins";
+    if (any_runs(g, reels))
+        return {};
+    if (m.nudges >= 1 && runs(g, timer::nudgetimer))
+        return "1 2 3 nudge a reel down by one stop";
+    if (runs(g, timer::wintobank))
+        return "The win is counted into the bank";
+    if (machine_busy(g))
+        return {};
+    if (m.credits <= 0.1f)
+        return empty_hint(g);
+    if (!live(g, start))
+        return {};
+    return m.holdsoffered == "yes" ? offer_hint(g) : "Space plays";
+}
+
+constexpr stop_hint board_stops[] = {
+    {timer::feature_shots_timer, "Space shoots"},
+    {timer::feature_skillstoptimer, "Space stops the light on a square"},
+    {timer::feature_randomstop, "Space stops the light on a square"},
+    {timer::feature_moneybelttimer, "Space stops the belt: three prices in the window are yours"},
+    {timer::feature_fastcash, "Space stops the light on the cash ladder"},
+    {timer::feature_shock_timer, "Space stops the light on a label"},
+    {timer::feature_shock_trueskill, "Space stops the light on a label"},
+    {timer::feature_pickaladder, "Space takes the ladder that flashes"},
+    {timer::feature_yesorno, "Space stops YES and NO"},
+};
+
+std::string_view board_stop_hint(const game& g) {
+    if (g.m.award == "shots" && g.b.shotstate == "stop")
+        return "Space shoots again; Tab and Enter on Collect takes the prize";
+    for (const stop_hint& s : board_stops)
+        if (runs(g, s.running))
+            return s.text;
+    return "Space stops";
+}
+
+bool can_call(const game& g) { return live(g, feature_hibutton) || live(g, feature_lobutton); }
+
+std::string_view gamble_hint(const game& g) {
+    if (!can_call(g))
+        return {};
+    if (live(g, feature_exchangebutton))
+        return "Tab and Enter: Higher, Lower, Exchange for the ring, or Collect";
+    return "Tab and Enter: Higher or Lower gambles, Collect takes the win";
+}
+
+std::string_view board_hint(const game& g) {
+    if (live(g, feature_stopfeature))
+        return board_stop_hint(g);
+    if (g.m.featuremode == "hilo" && !board_chain_runs(g))
+        return gamble_hint(g);
+    if (live(g, feature_startbutton))
+        return live(g, feature_cashbutton)
+                   ? "Space rolls the die; Tab and Enter on Cash, Feature or Shots takes that ladder"
+                   : "Space goes on";
+    return {};
+}
+
+} // namespace
+
+std::string_view hint(const game& g) {
+    const screen s = front(g.p);
+    if (s == screen::feature)
+        return board_hint(g);
+    if (s == screen::main)
+        return main_hint(g);
+    return s == screen::Entername ? "Type your name; Enter puts it into the table" : std::string_view();
+}
+
+std::string bank_label(const game& g) {
+    std::string text = g.m.currency == "usd" ? "Bank $" : "Bank £";
+    return text += std::string_view(fixed(g.m.bank));
+}
+
+std::string credits_label(const game& g) {
+    return "Credits " + std::string(std::string_view(plain(g.m.credits)));
+}
+
+} // namespace hustle

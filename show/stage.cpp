@@ -1,0 +1,45 @@
+#include "show/stage.h"
+
+#include "show/motions.h"
+
+#include <algorithm>
+
+namespace hustle {
+
+namespace {
+
+int sooner(int a, int b) {
+    if (a < 0 || b < 0)
+        return std::max(a, b);
+    return std::min(a, b);
+}
+
+} // namespace
+
+void add_patch(stage& s, element e) { s.patches.push_back({row(e).where, row(e).place}); }
+
+void take_in(stage& s, const game& g, std::int64_t now) {
+    for (int which = 1; which <= 3; ++which)
+        take_in_reel(s, g, which, now);
+    take_in_belt(s, g, now);
+    take_in_win(s, g, now);
+    if (s.reduced)
+        for (std::size_t e = 0; e < element_count; ++e)
+            if (g.p.elements[e].touched)
+                take_in_lamp(s, g.p, static_cast<element>(e), now);
+    s.still_logo = g.m.flashlogo == "no";
+    s.logo = at(g.p, element::toplogo);
+    s.logo.picture = art::title;
+    s.fresh = false;
+}
+
+int advance(stage& s, const game& g, std::int64_t now) {
+    int next = -1;
+    for (int which = 1; which <= 3; ++which)
+        next = advance_reel(s, g, which, now) ? 0 : next;
+    next = sooner(next, advance_belt(s, g, now));
+    next = sooner(next, advance_win(s, g, now));
+    return sooner(next, advance_lamps(s, g, now));
+}
+
+} // namespace hustle
