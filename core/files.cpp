@@ -1,6 +1,7 @@
 // The two stored files: one value to a line, lines ended by CR LF, words in double quotes.
 #include "core/start.h"
 
+#include "panel/sheet.h"
 #include "panel/text.h"
 
 #include <charconv>
@@ -111,18 +112,20 @@ void read_one(game& g, store file, bool (*read)(machine&, std::string_view), voi
     first(g.m);
     if (!text)
         return;
-    g.w.set_aside(file);
-    const std::string_view name = file == store::game_dat ? "game.dat" : "hscore.dat";
-    short_text told(name);
-    told.add(" is damaged. It is kept as ").add(name).add(".damaged, and the machine starts without it.");
+    const std::string kept = g.w.set_aside(file);
+    std::string told(name(file));
+    if (kept.empty())
+        told += " is damaged and could not be set aside. It is left as it is, and the machine starts without "
+                "it.";
+    else
+        told += " is damaged. It is kept as " + kept + ", and the machine starts without it.";
     g.w.box({"Hoard Hustle", told, message::mark::warning});
 }
 
 void write_one(game& g, store file, std::string_view text) {
     if (g.w.write(file, text))
         return;
-    const std::string_view name = file == store::game_dat ? "game.dat" : "hscore.dat";
-    g.w.box({"Hoard Hustle", short_text(name).add(" could not be saved."), message::mark::warning});
+    g.w.box({"Hoard Hustle", short_text(name(file)).add(" could not be saved."), message::mark::warning});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // memory, boxes answered with OK or No. Tests, measurements and the lab play in it.
 #pragma once
 
+#include "panel/sheet.h"
 #include "panel/splitmix.h"
 #include "panel/text.h"
 #include "panel/world.h"
@@ -24,7 +25,10 @@ struct stillworld : world {
         files[static_cast<int>(s)] = text;
         return true;
     }
-    void set_aside(store s) override { files[static_cast<int>(s)].reset(); }
+    std::string set_aside(store s) override {
+        files[static_cast<int>(s)].reset();
+        return std::string(name(s)) + ".damaged";
+    }
     void browse(page) override {}
     bool system_info() override { return false; }
     std::string currency(float amount) override { return std::string(std::string_view(uk_currency(amount))); }

@@ -39,8 +39,9 @@ struct world {
     virtual std::optional<std::string> read(store) = 0;
     // Replaces a stored file as a whole, or leaves the old one whole and returns false.
     virtual bool write(store, std::string_view text) = 0;
-    // Keeps a damaged file under its name with ".damaged" added.
-    virtual void set_aside(store) = 0;
+    // Keeps a damaged file under its name with ".damaged" added, or more where one is kept already.
+    // The name that it has now; empty where it could not be moved, and is left as it is.
+    virtual std::string set_aside(store) = 0;
     // Opens one of the program's own pages in the system's browser.
     virtual void browse(page) = 0;
     // The system-information button of the about box; false where the platform has nothing to show.

@@ -92,7 +92,10 @@ bool scriptworld::write(store s, std::string_view text) {
     return true;
 }
 
-void scriptworld::set_aside(store s) { file(s) = {}; }
+std::string scriptworld::set_aside(store s) {
+    file(s) = {};
+    return std::string(name(s)) + ".damaged";
+}
 
 void scriptworld::browse(page which) { tell("browse ", which == page::help ? "help" : "home"); }
 

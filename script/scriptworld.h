@@ -46,7 +46,7 @@ struct scriptworld final : world {
     void wait(int ms) override;
     std::optional<std::string> read(store) override;
     bool write(store, std::string_view text) override;
-    void set_aside(store) override;
+    std::string set_aside(store) override;
     void browse(page) override;
     bool system_info() override { return false; }
     std::string currency(float amount) override;

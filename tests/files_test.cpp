@@ -92,6 +92,19 @@ TEST(Files, ADamagedFileGivesTheFirstContentsAndAWord) {
     EXPECT_EQ(t.g.m.pcent, 80);
 }
 
+TEST(Files, ADamagedFileThatCannotBeMovedIsNotToldAsKept) {
+    struct : testworld {
+        std::string set_aside(store) override { return {}; }
+    } stuck;
+    stuck.files[1] = "rubbish";
+    game g{stuck};
+    reset_game(g, 0);
+    boot(g);
+    ASSERT_EQ(stuck.boxes.size(), 1u);
+    EXPECT_NE(stuck.boxes[0].find("could not be set aside"), std::string::npos);
+    EXPECT_EQ(stuck.boxes[0].find("kept as"), std::string::npos);
+}
+
 TEST(Files, NamesKeepTheirQuotesAndLoseTheirLineBreaks) {
     machine m;
     m.hiscore[0] = 12.4f;

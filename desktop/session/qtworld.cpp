@@ -2,7 +2,9 @@
 
 #include "desktop/platform/places.h"
 #include "desktop/platform/sound.h"
+#include "desktop/platform/stablefile.h"
 #include "desktop/platform/systeminfo.h"
+#include "desktop/session/savebox.h"
 #include "desktop/session/session.h"
 #include "desktop/window/mainwindow.h"
 #include "panel/sheet.h"
@@ -11,6 +13,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
@@ -28,7 +31,11 @@ QString text_of(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QString path_of(const qtworld& w, store file) { return w.data + "/" + text_of(name(file)); }
+std::string folder_of(const qtworld& w) { return QFile::encodeName(w.data).toStdString(); }
+std::string name_of(store file) { return std::string(name(file)); }
+std::string& reason_not_to_touch(qtworld& w, store file) {
+    return w.untouchable[static_cast<std::size_t>(file)];
+}
 
 QMessageBox::Icon icon_of(message::mark look) {
     switch (look) {
@@ -87,11 +94,46 @@ void qtworld::wait(int ms) {
     hold.release(ms);
 }
 
-std::optional<std::string> qtworld::read(store file) { return read_file(path_of(*this, file)); }
+std::optional<std::string> qtworld::read(store file) {
+    stored_text found = read_stored(folder_of(*this), name_of(file));
+    switch (found.what) {
+    case stored_text::state::there: return std::move(found.text);
+    case stored_text::state::missing: return {};
+    case stored_text::state::unreadable: break;
+    }
+    reason_not_to_touch(*this, file) = "it is there but cannot be read (" + found.why + ")";
+    hold_machine hold(*s);
+    tell_unreadable(data, text_of(name(file)), text_of(found.why));
+    hold.release(0);
+    return {};
+}
 
-bool qtworld::write(store file, std::string_view text) { return write_file(path_of(*this, file), text); }
+// A save that fails can be tried again, and elsewhere, as long as the player wants.
+bool qtworld::write(store file, std::string_view text) {
+    std::string folder = folder_of(*this);
+    std::string why = reason_not_to_touch(*this, file);
+    for (;;) {
+        if (why.empty())
+            why = save_stored(folder, name_of(file), text);
+        if (why.empty())
+            return true;
+        hold_machine hold(*s);
+        const auto next = ask_where_to_save(text_of(folder), text_of(name(file)), text_of(why));
+        hold.release(0);
+        if (next.empty())
+            return false;
+        // The place that must not be touched may be chosen again: it is refused again.
+        why = next == folder_of(*this) ? reason_not_to_touch(*this, file) : std::string();
+        folder = next;
+    }
+}
 
-void qtworld::set_aside(store file) { set_file_aside(path_of(*this, file)); }
+std::string qtworld::set_aside(store file) {
+    std::string kept = keep_aside(folder_of(*this), name_of(file));
+    if (kept.empty())
+        reason_not_to_touch(*this, file) = "it is damaged and could not be set aside";
+    return kept;
+}
 
 void qtworld::browse(page which) {
     const QString file = shipped_folder("help") + (which == page::help ? "/index.html" : "/home.html");
@@ -116,6 +158,8 @@ void qtworld::exit() { QCoreApplication::exit(0); }
 
 void prepare_world(qtworld& w) {
     w.data = data_folder();
+    for (const store file : {store::game_dat, store::hscore_dat})
+        sweep_stored(folder_of(w), name_of(file));
     w.sounds = shipped_folder("sounds");
     w.state = qEnvironmentVariable("HUSTLE_SEED").toULongLong(&w.repeats);
     if (!w.repeats) {

@@ -5,7 +5,9 @@
 
 #include <QString>
 
+#include <array>
 #include <cstdint>
+#include <string>
 
 namespace hustle::desktop {
 
@@ -13,7 +15,9 @@ struct session;
 
 struct qtworld : world {
     session* s = nullptr;
-    QString data;             // folder of the two stored files
+    QString data; // folder of the two stored files
+    // Why a stored file must not be written over; empty: it may be.
+    std::array<std::string, 2> untouchable;
     QString sounds;           // folder of the waves and the tune
     std::uint64_t state = 0;  // of the generator
     bool repeats = false;     // the state was given: the clock is kept out of the draws
@@ -28,7 +32,7 @@ struct qtworld : world {
     void wait(int ms) override;
     std::optional<std::string> read(store) override;
     bool write(store, std::string_view text) override;
-    void set_aside(store) override;
+    std::string set_aside(store) override;
     void browse(page) override;
     bool system_info() override;
     std::string currency(float amount) override;

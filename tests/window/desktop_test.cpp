@@ -1,7 +1,6 @@
-// The parts of the window that need no screen: its clock, its files, its names and its letters.
+// The parts of the window that need no screen: its clock, its names and its letters.
 #include "art/dotfont.h"
 #include "core/start.h"
-#include "desktop/platform/places.h"
 #include "desktop/session/clock.h"
 #include "desktop/window/spokennames.h"
 #include "panel/sheet.h"
@@ -9,9 +8,6 @@
 #include "screens/dispatch.h"
 
 #include <gtest/gtest.h>
-
-#include <QFile>
-#include <QTemporaryDir>
 
 namespace hustle::desktop {
 
@@ -65,24 +61,6 @@ TEST(Clock, GivesAQuickTimerAFewTicksAtATime) {
     machine_clock clock;
     for (int real = 1016; real <= 2000; real += 16) // a slow painter
         EXPECT_LE(ticks_at(clock, p, real), 5 + 4);
-}
-
-TEST(Files, AreReplacedWholeOrNotAtAll) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("game.dat");
-    EXPECT_FALSE(read_file(path).has_value());
-    EXPECT_TRUE(write_file(path, "old\r\n"));
-    EXPECT_TRUE(write_file(path, "new\r\n"));
-    EXPECT_EQ(read_file(path), "new\r\n");
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1); // nothing is left beside it
-    EXPECT_FALSE(write_file(folder.filePath("nowhere/game.dat"), "x"));
-
-    set_file_aside(path);
-    EXPECT_FALSE(read_file(path).has_value());
-    EXPECT_EQ(read_file(path + ".damaged"), "new\r\n");
-    EXPECT_TRUE(write_file(path, "newer"));
-    set_file_aside(path); // one kept before gives way
-    EXPECT_EQ(read_file(path + ".damaged"), "newer");
 }
 
 TEST(Names, TellEveryButtonLampAndLine) {

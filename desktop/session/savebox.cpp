@@ -1,0 +1,57 @@
+#include "desktop/session/savebox.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace hustle::desktop {
+
+namespace {
+
+QString shown(const QString& folder) { return QDir::toNativeSeparators(folder); }
+
+void warn(const QString& text, const QString& more) {
+    QMessageBox box(QMessageBox::Warning, "Hoard Hustle", text, QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setInformativeText(more);
+    box.exec();
+}
+
+} // namespace
+
+void tell_unreadable(const QString& folder, const QString& file, const QString& why) {
+    warn(QString("%1 is there but cannot be read: %2.").arg(file, why),
+         QString("It stands in %1. It is left as it is and not written over; the machine starts without it.")
+             .arg(shown(folder)));
+}
+
+void tell_no_place(const QString& folder, const QString& why) {
+    warn(QString("Nothing can be saved in %1: %2.").arg(shown(folder), why),
+         "The machine plays all the same. When it ends you can choose another folder for its two files.");
+}
+
+std::string ask_where_to_save(const QString& folder, const QString& file, const QString& why) {
+    QMessageBox box(QMessageBox::Warning, "Hoard Hustle", QString("%1 is not saved: %2.").arg(file, why),
+                    QMessageBox::NoButton, QApplication::activeWindow());
+    box.setInformativeText(QString("It belongs in %1.").arg(shown(folder)));
+    const QPushButton* const again = box.addButton("&Try Again", QMessageBox::AcceptRole);
+    const QPushButton* const elsewhere = box.addButton("Save &Elsewhere...", QMessageBox::ActionRole);
+    QPushButton* const without = box.addButton("&Do Without", QMessageBox::RejectRole);
+    box.setEscapeButton(without);
+    for (;;) {
+        box.exec();
+        if (box.clickedButton() == again)
+            return QFile::encodeName(folder).toStdString();
+        if (box.clickedButton() != elsewhere)
+            return {};
+        const QString chosen =
+            QFileDialog::getExistingDirectory(&box, "A folder for " + file, QDir::homePath());
+        if (!chosen.isEmpty())
+            return QFile::encodeName(chosen).toStdString();
+    }
+}
+
+} // namespace hustle::desktop
