@@ -5,15 +5,18 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 
 namespace {
 
 constexpr const char* help_text =
     "Hoard Hustle: a simulation of a UK fruit machine with a 15 pound jackpot.\n"
     "\n"
-    "  hoardhustle            starts the machine\n"
-    "  hoardhustle --version  tells the version\n"
-    "  hoardhustle --help     tells this\n"
+    "  hoardhustle                     starts the machine\n"
+    "  hoardhustle --reduced-flashing  with no lamp flashing fast, from now on\n"
+    "  hoardhustle --full-flashing     with all lamps as the machine has them, from now on\n"
+    "  hoardhustle --version           tells the version\n"
+    "  hoardhustle --help              tells this\n"
     "\n"
     "HUSTLE_DATA=FOLDER  where game.dat and hscore.dat stand\n"
     "HUSTLE_SEED=N       draws that repeat from run to run\n";
@@ -44,6 +47,9 @@ void tell_message(QtMsgType type, const QMessageLogContext&, const QString& text
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+// What the command line says of the settings; nothing where it says nothing.
+std::optional<bool> reduced_flashing;
+
 // Negative: go on and play. Otherwise the exit status.
 int read_arguments(int count, char** arguments) {
     for (int i = 1; i < count; ++i) {
@@ -54,6 +60,11 @@ int read_arguments(int count, char** arguments) {
         if (std::strcmp(arguments[i], "--help") == 0) {
             std::fputs(help_text, stdout);
             return 0;
+        }
+        const bool reduced = std::strcmp(arguments[i], "--reduced-flashing") == 0;
+        if (reduced || std::strcmp(arguments[i], "--full-flashing") == 0) {
+            reduced_flashing = reduced;
+            continue;
         }
         std::fprintf(stderr, "hoardhustle: unknown argument %s; --help tells what there is\n", arguments[i]);
         return 2;
@@ -77,6 +88,11 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName("hoardhustle");
     QApplication::setQuitOnLastWindowClosed(false);
     hustle::desktop::session session;
+    session.view = hustle::desktop::load_view_settings();
+    if (reduced_flashing) {
+        session.view.reduced_flashing = *reduced_flashing;
+        session.view.flashing_asked = true;
+    }
     hustle::desktop::start_session(session);
     const int result = session.g.p.over ? 0 : QApplication::exec();
     hustle::desktop::end_session(session);

@@ -30,11 +30,12 @@ constexpr const char* fonts[] = {
     "/usr/share/soundfonts/default.sf2",    "/usr/share/soundfonts/FluidR3_GM.sf2",
 };
 
-enum class what : std::uint8_t { wave, open_tune, play_tune, stop_tune, close_tune };
+enum class what : std::uint8_t { wave, open_tune, play_tune, stop_tune, close_tune, volume };
 struct order {
     what kind;
     hustle::sound wave = {};
     std::string path = {}; // of the tune, for open_tune
+    int percent = 100;     // for volume
 };
 
 // What the game's thread and the sound thread share, behind one lock.
@@ -44,6 +45,7 @@ struct {
     std::vector<order> orders;
     std::string state; // empty while the device is being opened
     bool deaf = true;  // nobody takes orders
+    int volume = 100;  // percent, as last told
 } shared;
 
 // What only the sound thread touches.
@@ -92,13 +94,16 @@ bool open_device() {
         return false;
     if (SDL_GetNumAudioDevices(0) != 0 && Mix_OpenAudio(rate, AUDIO_S16SYS, 2, buffer) == 0) {
         Mix_AllocateChannels(1);
-        Mix_Volume(0, wave_volume);
-        Mix_VolumeMusic(tune_volume);
         choose_soundfont();
         return true;
     }
     SDL_Quit();
     return false;
+}
+
+void turn_volume(int percent) {
+    Mix_Volume(0, wave_volume * percent / 100);
+    Mix_VolumeMusic(tune_volume * percent / 100);
 }
 
 void close_tune(mixer& m) {
@@ -140,6 +145,7 @@ void carry_out(mixer& m, const order& o) {
         break;
     case what::stop_tune: Mix_HaltMusic(); break;
     case what::close_tune: close_tune(m); break;
+    case what::volume: turn_volume(o.percent); break;
     }
 }
 
@@ -171,6 +177,10 @@ void run(const std::stop_token& stop, const std::string& folder) {
     }
     mixer m{.folder = folder};
     tell(describe(), false);
+    {
+        const std::scoped_lock held(shared.lock);
+        turn_volume(shared.volume);
+    }
     std::vector<order> taken;
     while (!stop.stop_requested()) {
         {
@@ -223,6 +233,17 @@ void tune_command(std::string_view command) {
     } else if (command == "close mid1") {
         give({.kind = what::close_tune});
     }
+}
+
+void set_volume(int percent) {
+    const std::scoped_lock held(shared.lock);
+    if (shared.volume == percent)
+        return;
+    shared.volume = percent;
+    if (shared.deaf)
+        return;
+    shared.orders.push_back({.kind = what::volume, .percent = percent});
+    shared.changed.notify_all();
 }
 
 void close_sound() {

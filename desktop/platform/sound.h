@@ -19,6 +19,9 @@ void play_wave(hustle::sound wave);
 // A command for the tune: `open "PATH" type sequencer  alias mid1` loads it, `play mid1 from 0`
 // plays it once, `stop mid1` ends it, `close mid1` lets go of it. Any other is ignored.
 void tune_command(std::string_view command);
+// How loud waves and tune are: percent of the loudest, 0 to 100; 0 is silence. It may be told before
+// the device is open, and holds until it is told anew.
+void set_volume(int percent);
 // Ends every sound and gives the device back. Nothing happens if it was never opened.
 void close_sound();
 // One line for the player: the driver, the device if it has a name, and the rate in Hz; or

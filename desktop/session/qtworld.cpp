@@ -6,6 +6,7 @@
 #include "desktop/platform/systeminfo.h"
 #include "desktop/session/savebox.h"
 #include "desktop/session/session.h"
+#include "desktop/window/boxes.h"
 #include "desktop/window/mainwindow.h"
 #include "panel/sheet.h"
 #include "panel/splitmix.h"
@@ -72,8 +73,8 @@ std::string qtworld::tune_path() { return (sounds + "/hustle.mid").toStdString()
 
 bool qtworld::box(const message& m) {
     hold_machine hold(*s);
-    QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(text_of(m.title));
+    QMessageBox box(box_parent());
+    dress(box, text_of(m.title));
     box.setText(text_of(m.text));
     box.setIcon(icon_of(m.look));
     if (m.yes_or_no) {
@@ -141,7 +142,8 @@ void qtworld::browse(page which) {
         return;
     auto* note = new QMessageBox(QMessageBox::Information, "Hoard Hustle",
                                  "No browser could be started. The page is here:\n" + file, QMessageBox::Ok,
-                                 QApplication::activeWindow());
+                                 box_parent());
+    dress(*note, "Hoard Hustle");
     note->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     note->setAttribute(Qt::WA_DeleteOnClose);
     note->setModal(false);
@@ -151,7 +153,11 @@ void qtworld::browse(page which) {
 bool qtworld::system_info() { return show_system_info(data); }
 
 std::string qtworld::currency(float amount) {
-    return QLocale::system().toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
+    // A system without a country of its own ("C") plays in pounds, as the machine's home does.
+    const QLocale system = QLocale::system();
+    const QLocale uk(QLocale::English, QLocale::UnitedKingdom);
+    const QLocale& form = system.language() == QLocale::C ? uk : system;
+    return form.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
 }
 
 void qtworld::exit() { QCoreApplication::exit(0); }

@@ -2,11 +2,11 @@
 
 #include "core/start.h"
 #include "desktop/platform/sound.h"
+#include "desktop/window/geometry.h"
 #include "desktop/window/mainwindow.h"
+#include "desktop/window/viewmenu.h"
 
 #include <QApplication>
-#include <QMenuBar>
-#include <QScreen>
 #include <QTime>
 
 #include <algorithm>
@@ -34,38 +34,23 @@ void deliver_due(session& s) {
     arm(s);
 }
 
-// Splash: a bare picture. Any other: a window of its own that holds nothing up.
+// Splash: a bare picture. Any other: a window of its own that holds nothing up and stays above the
+// main one, so that a form is never lost behind it.
 screenview* open_window(session& s, screen what) {
     auto* view = new screenview(s, what);
-    const QSize size = view->panel_size();
-    double zoom = 1;
-    if (s.window != nullptr)
-        zoom = std::max(0.75, s.window->main_view().width() /
-                                  static_cast<double>(s.window->main_view().panel_size().width()));
-    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    zoom = std::min(zoom, 0.9 * room.height() / size.height());
-    const QRect about = s.window != nullptr && s.window->isVisible() ? s.window->geometry() : room;
-    view->resize(size * zoom);
-    view->move(about.center() - view->rect().center());
-    if (what == screen::software)
+    if (what == screen::software) {
         view->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-    else
-        view->setMinimumSize(size / 2);
+    } else {
+        view->setParent(s.window, Qt::Window);
+        view->setMinimumSize(view->panel_size() / 2);
+    }
+    place_side_window(*view, s.window);
     return view;
 }
 
-// The largest of a few sizes that leaves room on the screen.
 void open_main(session& s) {
     s.window = new mainwindow(s);
-    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    const QSizeF panel = s.window->main_view().panel_size();
-    double zoom = 1;
-    for (const double larger : {1.25, 1.5, 1.75, 2.0, 2.5, 3.0})
-        if (panel.height() * larger < 0.8 * room.height() && panel.width() * larger < 0.9 * room.width())
-            zoom = larger;
-    const QSize menu(0, s.window->menuBar()->sizeHint().height());
-    s.window->resize((panel * zoom).toSize() + menu);
-    s.window->move(room.center() - s.window->rect().center());
+    place_main_window(*s.window, s.view);
 }
 
 bool is_main_pair(screen what) { return what == screen::main || what == screen::feature; }
@@ -121,6 +106,7 @@ void after_first_frame(session& s) {
     s.started = true;
     s.clock.behind = s.real.elapsed() - s.g.p.now;
     open_ears(s.world);
+    set_loudness(s);
     draw_ahead(s);
     arm(s);
 }
@@ -145,6 +131,7 @@ void draw_one(session& s) {
 void start_session(session& s) {
     s.world.s = &s;
     prepare_world(s.world);
+    ask_about_flashing(s);
     s.real.start();
     s.wake.setSingleShot(true);
     s.wake.setTimerType(Qt::PreciseTimer);
@@ -165,7 +152,12 @@ void first_painted(session& s) {
     QTimer::singleShot(0, &s.wake, [&s] { after_first_frame(s); });
 }
 
+void set_loudness(session& s) { set_volume(s.view.muted || s.g.m.soundstate != "on" ? 0 : s.view.volume); }
+
 void end_session(session& s) {
+    if (s.window != nullptr && !s.window->isFullScreen())
+        s.view.place = s.window->saveGeometry();
+    save_view_settings(s.view);
     s.wake.stop();
     s.ahead.stop();
     for (screenview* view : s.side)
@@ -192,6 +184,7 @@ void activated(session& s, screen what) {
 }
 
 void refresh(session& s) {
+    set_loudness(s);
     for (const screen_row& r : screen_rows())
         if (!is_main_pair(r.id))
             refresh_side(s, r.id);
@@ -200,7 +193,7 @@ void refresh(session& s) {
             open_main(s);
         s.window->refresh();
         if (!s.window->isVisible())
-            s.window->show();
+            show_main_window(*s.window, s.view);
     }
     if (!s.g.p.over)
         raise_front(s);

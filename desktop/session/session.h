@@ -6,6 +6,7 @@
 
 #include "desktop/session/clock.h"
 #include "desktop/session/qtworld.h"
+#include "desktop/window/viewsettings.h"
 #include "screens/dispatch.h"
 
 #include <QElapsedTimer>
@@ -21,6 +22,8 @@ class screenview;
 struct session {
     qtworld world;
     game g{world};
+
+    view_settings view;
 
     QElapsedTimer real;
     machine_clock clock;
@@ -49,6 +52,8 @@ void activated(session&, screen);
 
 // Brings the windows into step with the panel.
 void refresh(session&);
+// Brings the sound to the volume that the settings and the machine's own switch ask for.
+void set_loudness(session&);
 // Draws coming pictures again, after a change of size.
 void draw_ahead(session&);
 

@@ -1,11 +1,13 @@
 #include "desktop/window/mainwindow.h"
 
 #include "desktop/session/session.h"
+#include "desktop/window/hintline.h"
 #include "desktop/window/keys.h"
+#include "desktop/window/viewmenu.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenuBar>
+#include <QVBoxLayout>
 
 namespace hustle::desktop {
 
@@ -32,9 +34,33 @@ QString with_mnemonic(QString caption, QString& taken) {
 mainwindow::mainwindow(session& s) : played(s), stack(new QStackedWidget(this)) {
     on_main = new screenview(s, hustle::screen::main, stack);
     stack->addWidget(on_main);
-    stack->setMinimumSize(400, 281);
-    setCentralWidget(stack);
+    stack->setMinimumSize(280, 197);
+    hint = new hintline(this);
+    auto* middle = new QWidget(this);
+    auto* column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(stack, 1);
+    column->addWidget(hint);
+    setCentralWidget(middle);
     make_menus();
+    show_hints();
+}
+
+QSize mainwindow::bars() const {
+    const int menu = played.view.full_screen ? 0 : menuBar()->sizeHint().height();
+    return {0, menu + (played.view.hints ? hint->sizeHint().height() : 0)};
+}
+
+void mainwindow::show_hints() {
+    hint->setVisible(played.view.hints);
+    hint->tell(played.g);
+}
+
+void mainwindow::repaint_all() {
+    on_main->update();
+    if (on_board != nullptr)
+        on_board->update();
 }
 
 screenview& mainwindow::board_view() {
@@ -82,6 +108,16 @@ void mainwindow::make_menus() {
         });
         entries.emplace_back(r.entry, action);
     }
+    fill_view_menu(*menuBar()->addMenu("&View"), *this, played);
+    full_screen = findChild<QAction*>("full_screen");
+    // A hidden menu bar keeps no shortcuts: the window has them as well.
+    for (QAction* action : findChildren<QAction*>())
+        if (!action->shortcuts().isEmpty())
+            addAction(action);
+    auto* quit = new QAction(this);
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    QObject::connect(quit, &QAction::triggered, this, &QWidget::close);
+    addAction(quit);
 }
 
 void mainwindow::refresh_menus() {
@@ -116,6 +152,8 @@ void mainwindow::refresh() {
     if (windowTitle() != title)
         setWindowTitle(title);
     view->refresh();
+    if (played.view.hints)
+        hint->tell(played.g);
 }
 
 bool mainwindow::event(QEvent* event) {
@@ -135,6 +173,8 @@ void mainwindow::keyPressEvent(QKeyEvent* event) {
     const int code = event->isAutoRepeat() ? 0 : machine_key(*event);
     if (code != 0)
         send(played, {input::kind::key, shown_screen(), element::total, code});
+    else if (event->key() == Qt::Key_Escape && isFullScreen())
+        full_screen->setChecked(false);
     else
         event->ignore();
 }

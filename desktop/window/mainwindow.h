@@ -5,20 +5,30 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QStackedWidget>
 
 #include <vector>
 
 namespace hustle::desktop {
 
+class hintline;
+
 class mainwindow : public QMainWindow {
 public:
     explicit mainwindow(session&);
 
+    // What stands around the panel: the menu bar and the hint line, with their present sizes.
+    QSize bars() const;
+    // Shows or hides the hint line, as the settings say.
+    void show_hints();
+    // Everything is drawn anew.
+    void repaint_all();
+
     // Shows main or the board, and brings the menu's ticks and the picture up to date.
     void refresh();
     hustle::screen shown_screen() const;
-    screenview& main_view() { return *on_main; }
+    screenview& main_view() const { return *on_main; }
     // The board's view, made at the first call.
     screenview& board_view();
 
@@ -33,6 +43,8 @@ private:
 
     session& played;
     QStackedWidget* stack;
+    hintline* hint;
+    QAction* full_screen = nullptr;
     screenview* on_main;
     screenview* on_board = nullptr;
     std::vector<std::pair<element, QAction*>> entries;

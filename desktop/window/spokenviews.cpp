@@ -26,6 +26,9 @@ public:
     spoken_button(screenview& owner, element e) : QPushButton(&owner), view(owner), id(e) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFocusPolicy(Qt::TabFocus);
+        if (row(e).what == kind::push)
+            setText(QString::fromUtf8(row(e).text.data(),
+                                      static_cast<qsizetype>(row(e).text.size()))); // its access key
         QObject::connect(this, &QPushButton::clicked, this, [this] {
             send(view.played, {input::kind::press, row(id).where, id});
         });

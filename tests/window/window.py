@@ -53,7 +53,7 @@ class Machine:
                         SDL_AUDIODRIVER="dummy", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
                         QT_SCALE_FACTOR="1", PATH=self.browser(folder) + os.pathsep + os.environ["PATH"])
         self.folder = folder
-        self.process = subprocess.Popen([program], env=self.env)
+        self.process = subprocess.Popen([program, "--full-flashing"], env=self.env)
         if wait_for_main:
             self.await_main()
 

@@ -1,0 +1,23 @@
+// One line under the cabinet that says what can be done now and by which key, with what the player
+// has at its end. It is the window's own; the machine knows nothing of it.
+#pragma once
+
+#include "core/game.h"
+
+#include <QLabel>
+
+namespace hustle::desktop {
+
+class hintline : public QWidget {
+public:
+    explicit hintline(QWidget* parent);
+    void tell(const game&);
+    QSize sizeHint() const override;
+
+private:
+    QLabel* what;
+    QLabel* money;
+    QString last;
+};
+
+} // namespace hustle::desktop

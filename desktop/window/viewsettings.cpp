@@ -1,0 +1,56 @@
+#include "desktop/window/viewsettings.h"
+
+#include <QDir>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace hustle::desktop {
+
+namespace {
+
+// A folder that was named for the two files takes the settings as well, so that a run which is told
+// where to keep things leaves nothing behind elsewhere.
+template <class Act> void with_settings(const Act& act) {
+    const QString folder = qEnvironmentVariable("HUSTLE_DATA");
+    if (folder.isEmpty()) {
+        QSettings settings("hoardhustle", "hoardhustle");
+        act(settings);
+    } else {
+        QSettings settings(QDir(folder).filePath("view.ini"), QSettings::IniFormat);
+        act(settings);
+    }
+}
+
+} // namespace
+
+view_settings load_view_settings() {
+    view_settings view;
+    with_settings([&](QSettings& kept) {
+        const auto flag = [&](const char* name, bool& value) { value = kept.value(name, value).toBool(); };
+        flag("flashing_asked", view.flashing_asked);
+        flag("reduced_flashing", view.reduced_flashing);
+        flag("hints", view.hints);
+        flag("recording", view.recording);
+        flag("muted", view.muted);
+        flag("full_screen", view.full_screen);
+        view.volume = std::clamp(kept.value("volume", view.volume).toInt(), 0, 100);
+        view.place = kept.value("place").toByteArray();
+    });
+    return view;
+}
+
+void save_view_settings(const view_settings& view) {
+    with_settings([&](QSettings& kept) {
+        kept.setValue("flashing_asked", view.flashing_asked);
+        kept.setValue("reduced_flashing", view.reduced_flashing);
+        kept.setValue("hints", view.hints);
+        kept.setValue("recording", view.recording);
+        kept.setValue("muted", view.muted);
+        kept.setValue("full_screen", view.full_screen);
+        kept.setValue("volume", view.volume);
+        kept.setValue("place", view.place);
+    });
+}
+
+} // namespace hustle::desktop
