@@ -2,6 +2,7 @@
 
 #include "core/reels.h"
 #include "panel/sheet.h"
+#include "script/dump.h"
 #include "script/session.h"
 
 #include <array>
@@ -122,6 +123,9 @@ void set(runner& r, const words& w) {
     if (!c.store)
         throw script_error(c.name + " can only be read");
     const value to = read_value(c.where, c.name, w[1], false);
+    if (c.bears && (to.number < c.bears->least || to.number > c.bears->most))
+        throw script_error(c.name + " takes a number from " + std::to_string(c.bears->least) + " to " +
+                           std::to_string(c.bears->most) + ", not " + written(w[1]));
     if (r.s.over())
         return;
     c.store(to);
@@ -220,11 +224,9 @@ void trace(runner& r, const words& w) {
     r.s.trace(w[0].text == "on");
 }
 
-void dump(runner& r, const words&) {
-    for (const cell& c : r.s.known.all())
-        if (c.traced)
-            r.out << c.name << " = " << shown(c.where) << '\n';
-}
+void print_dump(runner& r, const words&) { r.out << dump(r.s.known); }
+
+void print_hash(runner& r, const words&) { r.out << "hash = " << hash_text(r.s.known) << '\n'; }
 
 // clang-format off
 constexpr command_row commands[] = {
@@ -250,7 +252,8 @@ constexpr command_row commands[] = {
     {"expect", 2, 2,   true,  expect,      "expect NAME VALUE"},
     {"forget", 0, 0,   false, forget,      "forget"},
     {"trace",  1, 1,   false, trace,       "trace on or off"},
-    {"dump",   0, 0,   true,  dump,        "dump"},
+    {"dump",   0, 0,   true,  print_dump,  "dump"},
+    {"hash",   0, 0,   true,  print_hash,  "hash"},
 };
 // clang-format on
 

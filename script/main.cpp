@@ -1,5 +1,7 @@
 // hustlescript [FILE]: runs a panel script from a file or from standard input.
+// hustlescript --signature: prints one number for the behaviour of the whole machine.
 #include "script/commands.h"
+#include "script/monkey.h"
 
 #include <fstream>
 #include <iostream>
@@ -17,10 +19,14 @@ bool read_all(std::istream& from, std::string& text) {
 
 int main(int argc, char** argv) {
     if (argc > 2) {
-        std::cerr << "usage: hustlescript [FILE]\n";
+        std::cerr << "usage: hustlescript [FILE | --signature]\n";
         return 2;
     }
     std::ios::sync_with_stdio(false);
+    if (argc == 2 && std::string_view(argv[1]) == "--signature") {
+        std::cout << hustle::script::signature() << '\n';
+        return 0;
+    }
     const std::string name = argc == 2 ? argv[1] : "stdin";
     std::string text;
     bool read = false;

@@ -1,6 +1,7 @@
 #include "script/names.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace hustle::script {
 
@@ -35,10 +36,6 @@ const property_row properties[] = {
     {"top", placed, AT(top), TELL(set_top, static_cast<int>(v.number))},
 };
 
-[[noreturn]] void unknown(std::string_view what, std::string_view name) {
-    throw script_error("unknown " + std::string(what) + " " + std::string(name));
-}
-
 std::string joined(screen s, std::string_view name) {
     return std::string(row(s).name) + "." + std::string(name);
 }
@@ -52,12 +49,20 @@ void set_running(panel& p, timer t, bool on) {
 
 } // namespace
 
-names::names(game& g, scriptworld& w) {
+names::names(game& g) {
     add_fields(g);
     add_elements(g.p);
     add_timers(g.p);
     add_screens(g.p);
+    sort();
+}
+
+names::names(game& g, scriptworld& w) : names(g) {
     add_logs(w);
+    sort();
+}
+
+void names::sort() {
     std::sort(cells.begin(), cells.end(), [](const cell& a, const cell& b) { return a.name < b.name; });
 }
 
@@ -111,11 +116,9 @@ void names::add_timers(panel& p) {
         const auto t = static_cast<timer>(i);
         cells.push_back({full_name(t) + ".running", &p.running[i],
                          [&p, t](const value& v) { set_running(p, t, v.yes); }});
-        cells.push_back({full_name(t) + ".interval", &p.intervals[i], [&p, t](const value& v) {
-                             if (v.number < 1)
-                                 throw script_error("an interval is at least 1 ms");
-                             set_interval(p, t, static_cast<int>(v.number));
-                         }});
+        cells.push_back({full_name(t) + ".interval", &p.intervals[i],
+                         [&p, t](const value& v) { set_interval(p, t, static_cast<int>(v.number)); }});
+        cells.back().bears = {1, INT_MAX};
     }
 }
 
@@ -135,31 +138,6 @@ void names::add_logs(scriptworld& w) {
     cells.push_back({"drawn", &w.drawn, {}, false});
     for (const store s : {store::game_dat, store::hscore_dat})
         cells.push_back({"file." + std::string(name(s)), &w.file(s).text, {}, false});
-}
-
-const cell& names::find(std::string_view name) const {
-    const auto found = std::lower_bound(cells.begin(), cells.end(), name,
-                                        [](const cell& c, std::string_view n) { return c.name < n; });
-    if (found == cells.end() || found->name != name)
-        unknown("name", name);
-    return *found;
-}
-
-screen find_screen(std::string_view name) {
-    for (const screen_row& s : screen_rows())
-        if (s.name == name)
-            return s.id;
-    unknown("screen", name);
-}
-
-element find_element(std::string_view name) {
-    const std::size_t dot = name.find('.');
-    if (dot == std::string_view::npos)
-        unknown("element", name);
-    for (const element_row& e : elements_of(find_screen(name.substr(0, dot))))
-        if (e.name == name.substr(dot + 1))
-            return e.id;
-    unknown("element", name);
 }
 
 std::string full_name(element e) { return joined(row(e).where, row(e).name); }

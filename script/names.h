@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,11 +16,16 @@
 
 namespace hustle::script {
 
+struct range {
+    int least, most;
+};
+
 struct cell {
     std::string name;
     slot where;
     std::function<void(const value&)> store = {}; // what `set` does; empty: the name is only read
     bool traced = true;                           // part of a trace and of a dump
+    std::optional<range> bears = {};              // what `set` takes of a whole number
 };
 
 // A field by its name in the script.
@@ -34,7 +40,8 @@ std::span<const field_row> field_rows();
 
 class names {
 public:
-    names(game&, scriptworld&);
+    explicit names(game&);      // of the machine alone, for a front end
+    names(game&, scriptworld&); // with the logs and files of a script
     names(const names&) = delete;
     names& operator=(const names&) = delete;
 
@@ -50,6 +57,7 @@ private:
     void add_timers(panel&);
     void add_screens(panel&);
     void add_logs(scriptworld&);
+    void sort();
 
     std::vector<cell> cells;
     std::deque<std::string> kept; // the texts of words that scripts have set

@@ -1,7 +1,6 @@
 #include "script/values.h"
 
 #include "panel/sheet.h"
-#include "panel/text.h"
 
 #include <charconv>
 #include <cmath>
@@ -10,9 +9,6 @@
 namespace hustle::script {
 
 namespace {
-
-template <class... Readers> struct each : Readers... { using Readers::operator()...; };
-template <class... Readers> each(Readers...) -> each<Readers...>;
 
 [[noreturn]] void wrong(std::string_view what, std::string_view takes, const token& t) {
     throw script_error(std::string(what) + " takes " + std::string(takes) + ", not " + written(t));
@@ -93,21 +89,6 @@ bool same_number(double found, const value& wanted) {
 }
 
 } // namespace
-
-std::string shown(const slot& s) {
-    return std::visit(each{
-                          [](const single* v) { return std::string(std::string_view(plain(*v))); },
-                          [](const count* v) { return std::to_string(*v); },
-                          [](const int* v) { return std::to_string(*v); },
-                          [](const colour* v) { return std::to_string(*v); },
-                          [](const word* v) { return quote(*v); },
-                          [](const std::string* v) { return quote(*v); },
-                          [](const bool* v) { return std::string(*v ? "true" : "false"); },
-                          [](const art* v) { return std::string(name(*v)); },
-                          [](const panel* v) { return quote(row(front(*v)).name); },
-                      },
-                      s);
-}
 
 value read_value(const slot& as, std::string_view name, const token& t, bool may_be_near) {
     const bool near = may_be_near && !t.quoted && t.text.starts_with('~');

@@ -12,6 +12,10 @@ namespace hustle::script {
 // Where a named value lives. `panel` stands for the screen in front, which has no place of its own.
 using slot = std::variant<single*, count*, word*, std::string*, bool*, int*, colour*, art*, const panel*>;
 
+// A visitor of a slot, from one function for each kind of value.
+template <class... Readers> struct each : Readers... { using Readers::operator()...; };
+template <class... Readers> each(Readers...) -> each<Readers...>;
+
 // A value as a script wrote it, read as the kind of one name.
 struct value {
     double number = 0; // a single or a whole number
