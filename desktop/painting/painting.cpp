@@ -45,6 +45,29 @@ void draw_field(canvas& c, const QString& text, QRect box) {
     draw_text(c.painter, look, text);
 }
 
+void draw_caption(canvas& c, const QString& text, QRect box) {
+    lettering look;
+    look.box = box;
+    look.largest = 17 * c.pixel;
+    look.fore = Qt::white;
+    look.align = Qt::AlignRight | Qt::AlignVCenter;
+    draw_text(c.painter, look, text);
+}
+
+// The cabinet's gilt edge round a form whose picture has none of its own.
+void draw_gilt_edge(canvas& c, QRect box) {
+    c.painter.setBrush(Qt::NoBrush);
+    const auto edge = [&](QColor colour, double inset, double width) {
+        const double in = inset * c.pixel;
+        c.painter.setPen(QPen(colour, width * c.pixel));
+        c.painter.drawRoundedRect(QRectF(box).adjusted(in, in, -in, -in), 8 * c.pixel, 8 * c.pixel);
+    };
+    edge(QColor(92, 50, 6), 3, 5);
+    edge(QColor(232, 182, 74), 3, 3);
+    edge(QColor(255, 236, 170), 2.4, 0.8);
+    edge(QColor(120, 72, 14), 9, 1);
+}
+
 void draw_push(canvas& c, QString text, QRect box, bool pressed) {
     const QRectF body = QRectF(box).adjusted(c.pixel, c.pixel, -c.pixel, -c.pixel);
     QLinearGradient plate(body.topLeft(), body.bottomLeft());
@@ -98,7 +121,11 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
     switch (r.what) {
     case kind::picture:
     case kind::button:
-    case kind::clicked: draw_picture(c, p, e, box, pressed); break;
+    case kind::clicked:
+        draw_picture(c, p, e, box, pressed);
+        if (e == element::Entername_background)
+            draw_gilt_edge(c, box);
+        break;
     case kind::label:
         if (is_lamp(r))
             draw_lamp(c.painter, c.lamps, r, state, box, c.pixel);
@@ -114,7 +141,12 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
         else
             draw_dot_line(c.painter, c.dots, box, text_of(p, e), state.activecolor, state.lineflash);
         break;
-    case kind::textbox: draw_field(c, text_of(p, e), box); break;
+    case kind::textbox:
+        if (e == element::Entername_Text2) // says what the box beside it is for
+            draw_caption(c, text_of(p, e), box);
+        else
+            draw_field(c, text_of(p, e), box);
+        break;
     case kind::push: draw_push(c, text_of(p, e), box, pressed); break;
     case kind::frame:
         c.painter.setPen(QPen(field_rim, 2 * c.pixel));

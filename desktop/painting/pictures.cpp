@@ -71,6 +71,13 @@ void begin_settling(picture_store& store) {
     store.sharp.clear();
 }
 
+QIcon program_icon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addPixmap(draw(row(About_picIcon).picture, {size, size}));
+    return icon;
+}
+
 std::span<const coming_art> coming_arts(screen s) {
     if (s == screen::main)
         return main_arts;

@@ -5,6 +5,7 @@
 #include "panel/sheet.h"
 
 #include <QHash>
+#include <QIcon>
 #include <QPixmap>
 #include <QSize>
 
@@ -23,6 +24,9 @@ struct picture_store {
 const QPixmap& picture(picture_store&, art, QSize device_pixels);
 // Forgets what was drawn for another size.
 void begin_settling(picture_store&);
+
+// The program's own icon, as the about box shows it; drawn only in the sizes that are asked for.
+QIcon program_icon();
 
 // Pictures that an element of a screen may show later on: drawn ahead in idle moments, so that
 // the first spin does not stutter.

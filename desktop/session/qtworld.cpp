@@ -38,6 +38,17 @@ std::string& reason_not_to_touch(qtworld& w, store file) {
     return w.untouchable[static_cast<std::size_t>(file)];
 }
 
+// What a Yes to one of the machine's questions costs, in the window's own words under the machine's.
+struct cost_row {
+    std::string_view title;
+    const char* cost;
+};
+constexpr cost_row costs[] = {
+    {"Begin New Game",
+     "The money in the bank and the plays in hand will go, and no score is noted for them."},
+    {"Reset Machine Statistics", "All ledgers begin anew at £100 in and £80 out. The table of scores stays."},
+};
+
 QMessageBox::Icon icon_of(message::mark look) {
     switch (look) {
     case message::mark::plain: return QMessageBox::NoIcon;
@@ -77,6 +88,9 @@ bool qtworld::box(const message& m) {
     dress(box, text_of(m.title));
     box.setText(text_of(m.text));
     box.setIcon(icon_of(m.look));
+    for (const cost_row& r : costs)
+        if (r.title == m.title && m.yes_or_no)
+            box.setInformativeText(QString::fromUtf8(r.cost));
     if (m.yes_or_no) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(QMessageBox::No);

@@ -107,6 +107,7 @@ void after_first_frame(session& s) {
     s.clock.behind = s.real.elapsed() - s.g.p.now;
     open_ears(s.world);
     set_loudness(s);
+    QApplication::setWindowIcon(program_icon());
     draw_ahead(s);
     arm(s);
 }

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr int settle_ms = 150; // after the last change of size pictures are drawn sharp again
 constexpr int twips_to_pixel = 15;
+constexpr int seen_letters = 15; // of a name, beside its score
 
 bool takes_mouse(const element_row& r) {
     return r.what == kind::button || r.what == kind::clicked || r.what == kind::push;
@@ -274,7 +276,12 @@ void screenview::make_text_boxes() {
         box->selectAll();
         box->setStyleSheet("QLineEdit { background: #0e0b12; color: #ffe8be; border: 2px solid #d4b060;"
                            " border-radius: 4px; padding: 0 4px; selection-background-color: #84508c; }");
+        too_long = new QLabel("Only fifteen letters will be seen beside the score.", this);
+        too_long->setStyleSheet("color: #ffd98a; background: transparent;");
+        too_long->setAlignment(Qt::AlignCenter);
+        too_long->hide();
         QObject::connect(box, &QLineEdit::textEdited, this, [this, e = r.id](const QString& text) {
+            too_long->setVisible(text.size() > seen_letters);
             const std::string typed = text.toStdString();
             send(played, {input::kind::type, what, e, 0, typed});
         });
@@ -290,6 +297,8 @@ void screenview::place_children() {
         font.setBold(true);
         font.setPixelSize(std::max(6, static_cast<int>(box->height() * 0.5)));
         box->setFont(font);
+        too_long->setGeometry(
+            box->geometry().adjusted(-width() / 5, box->height() + 2, width() / 5, box->height()));
     }
     place_spoken(spoken, *this);
 }

@@ -5,6 +5,7 @@
 #include "desktop/painting/painting.h"
 #include "desktop/window/spokenviews.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
 #include <QWidget>
@@ -69,6 +70,7 @@ private:
     QTimer running_step;
     element held = element::total; // the button under a mouse key that is down
     std::vector<std::pair<element, QLineEdit*>> text_boxes;
+    QLabel* too_long = nullptr; // said of a name of which not all will be seen
     spoken_views spoken;
     std::vector<QRect> drawn; // where each element was last drawn, widget pixels
     std::size_t next_row = 0; // of the drawing ahead
