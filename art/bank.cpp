@@ -41,6 +41,12 @@ constexpr void put_reels(bank_table& bank) {
     }
     for (int face = 1; face <= 6; ++face)
         put(bank, nth(dice1pic, face), face == 3 ? 98 : 97, face == 3 ? 98 : 97, draw_die, face);
+    put(bank, reelpaper, 144, 312, draw_reelpaper);
+    put(bank, reelglass, 144, 312, draw_reelglass);
+    put(bank, reelstrip, 144, 1664, draw_reelstrip);
+    put(bank, reelstrip1, 144, 1664, draw_reelstrip, lit);
+    put(bank, coinpic, 30, 30, draw_coin);
+    put(bank, coinpic1, 30, 30, draw_coin, lit);
     put(bank, strippic, 50, 541, draw_strip);
     put(bank, stripframe, 65, 41, draw_strip_marker);
 }

@@ -11,7 +11,11 @@ constexpr int lit = 100; // added to the number of a lamp that is lit
 
 void draw_reel(pen&, int stop);           // 1 to 16; 100 more: with a dollar sign
 void draw_spinning_reel(pen&, int phase); // 1 to 4
-void draw_strip(pen&, int);               // all sixteen stops, stop 1 on top
+void draw_reelpaper(pen&, int);           // a reel from behind its symbols to before them
+void draw_reelstrip(pen&, int which);     // all sixteen stops one below the other; 100: dollars
+void draw_reelglass(pen&, int);
+void draw_coin(pen&, int which); // 0 pounds, 100 dollars
+void draw_strip(pen&, int);      // all sixteen stops, stop 1 on top
 void draw_strip_marker(pen&, int);
 
 void draw_die(pen&, int face);           // 1 to 6

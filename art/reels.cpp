@@ -142,6 +142,21 @@ void draw_reel(pen& p, int stop) {
     reel_glass(p);
 }
 
+void draw_reelpaper(pen& p, int) { reel_paper(p); }
+
+void draw_reelstrip(pen& p, int which) {
+    for (std::size_t stop = 0; stop < strip().size(); ++stop)
+        stop_on_reel(p, strip()[stop], which == lit ? money::dollars : money::pounds,
+                     (static_cast<double>(stop) + 0.5) * cell);
+}
+
+void draw_reelglass(pen& p, int) { reel_glass(p); }
+
+void draw_coin(pen& p, int which) {
+    const moved here(p, 15, 15, 0.29);
+    draw(p, symbol::coin, which == lit ? money::dollars : money::pounds);
+}
+
 void draw_spinning_reel(pen& p, int phase) {
     reel_paper(p);
     // Each phase shows other symbols at another height, so that the four in turn run downwards.

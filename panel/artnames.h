@@ -39,7 +39,9 @@
     /* still decoration */                                                                         \
     X(buttonbarpic) X(reelframepic) X(lineframepic) X(still1pic) X(still2pic) X(still3pic)         \
     X(transferpic) X(trailheldpic) X(trtpic) X(shotspanel) X(dicepanel) X(elpic) X(losepic)        \
-    X(statisticsback) X(highscoreback) X(strippic) X(stripframe) X(wins_uk) X(iconpic)
+    X(statisticsback) X(highscoreback) X(strippic) X(stripframe) X(wins_uk) X(iconpic)             \
+    /* what a rolling reel and a counted win are put together from */                              \
+    X(reelpaper) X(reelglass) X(reelstrip) X(reelstrip1) X(coinpic) X(coinpic1)
 
 // The wave files, without their ending. `like_it` is like-it.wav.
 #define HUSTLE_SOUNDS(X)                                                                           \

@@ -1,8 +1,8 @@
 #include "show/spokennames.h"
 
+#include "art/lamplooks.h"
 #include "panel/sheet.h"
 #include "panel/text.h"
-#include "show/lamps.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // Reduced flashing: a lamp that is told to flash more than three times a second is held at its lit
 // look until it has come to rest. Slower changes, words and figures pass as they are.
-#include "show/lamps.h"
+#include "art/lamplooks.h"
 #include "show/motions.h"
 
 #include <algorithm>

@@ -15,10 +15,6 @@ namespace {
 const QColor field_ground(14, 11, 18);
 const QColor field_rim(92, 78, 110);
 
-QString text_of(const panel& p, element e) {
-    return QString::fromUtf8(at(p, e).text.data(), static_cast<qsizetype>(at(p, e).text.size()));
-}
-
 void draw_plain_label(canvas& c, const element_row& r, const element_state& state, const QString& text,
                       QRect box) {
     lettering look;
@@ -91,8 +87,8 @@ void draw_rim(canvas& c, QRect box) {
     c.painter.drawRoundedRect(QRectF(box).adjusted(-out, -out, out, out), 3 * c.pixel, 3 * c.pixel);
 }
 
-void draw_picture(canvas& c, const panel& p, element e, QRect box, bool pressed) {
-    const art a = shown_art(p, e);
+void draw_picture(canvas& c, const panel& p, const element_state& state, QRect box, bool pressed) {
+    const art a = p.dollars ? dollar_version(state.picture) : state.picture;
     if (a == art::none)
         return;
     const QPixmap& pixmap = picture(c.pictures, a, box.size());
@@ -104,25 +100,40 @@ void draw_picture(canvas& c, const panel& p, element e, QRect box, bool pressed)
         c.painter.drawPixmap(target, pixmap);
 }
 
+// The reel of an element that stands on its strip or rolls; null for any other.
+const reel_motion* reel_of(const canvas& c, element e) {
+    if (e < element::reel1 || e > element::reel3)
+        return nullptr;
+    const reel_motion& r =
+        c.show.reels[static_cast<std::size_t>(static_cast<int>(e) - static_cast<int>(element::reel1))];
+    return r.on_strip ? &r : nullptr;
+}
+
+void draw_line(canvas& c, element e, const element_state& state, QRect box) {
+    if (e == element::feature_displayline)
+        draw_rim(c, box);
+    const bool runs = e == element::feature_displayline && c.show.belt.runs;
+    draw_dot_line(c.painter, c.dots, box, QString::fromStdString(state.text), state.activecolor,
+                  state.lineflash, runs ? c.show.belt.columns : 0);
+}
+
 } // namespace
 
 QColor ground_colour() { return {22, 13, 30}; }
 
-art shown_art(const panel& p, element e) {
-    const art a = at(p, e).picture;
-    return p.dollars ? dollar_version(a) : a;
-}
-
 void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed) {
     const element_row& r = row(e);
-    const element_state& state = at(p, e);
+    const element_state& state = shown(c.show, p, e);
     if (!state.visible)
         return;
     switch (r.what) {
     case kind::picture:
     case kind::button:
     case kind::clicked:
-        draw_picture(c, p, e, box, pressed);
+        if (const reel_motion* rolling = reel_of(c, e))
+            draw_reel(c.painter, c.strips, *rolling, p.dollars, c.show.win.swell, box);
+        else
+            draw_picture(c, p, state, box, pressed);
         if (e == element::Entername_background)
             draw_gilt_edge(c, box);
         break;
@@ -130,30 +141,53 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
         if (is_lamp(r))
             draw_lamp(c.painter, c.lamps, r, state, box, c.pixel);
         else
-            draw_plain_label(c, r, state, text_of(p, e), box);
+            draw_plain_label(c, r, state, QString::fromStdString(state.text), box);
         break;
-    case kind::line:
-        if (e == element::feature_displayline)
-            draw_rim(c, box);
-        if (c.running != nullptr && c.running->on == e)
-            draw_dot_line(c.painter, c.dots, box, c.running->before, state.activecolor, state.lineflash,
-                          c.running->run);
-        else
-            draw_dot_line(c.painter, c.dots, box, text_of(p, e), state.activecolor, state.lineflash);
-        break;
+    case kind::line: draw_line(c, e, state, box); break;
     case kind::textbox:
         if (e == element::Entername_Text2) // says what the box beside it is for
-            draw_caption(c, text_of(p, e), box);
+            draw_caption(c, QString::fromStdString(state.text), box);
         else
-            draw_field(c, text_of(p, e), box);
+            draw_field(c, QString::fromStdString(state.text), box);
         break;
-    case kind::push: draw_push(c, text_of(p, e), box, pressed); break;
+    case kind::push: draw_push(c, QString::fromStdString(state.text), box, pressed); break;
     case kind::frame:
         c.painter.setPen(QPen(field_rim, 2 * c.pixel));
         c.painter.setBrush(Qt::NoBrush);
         c.painter.drawRect(box);
         break;
     case kind::entry: break;
+    }
+}
+
+void draw_win(canvas& c, const panel& p) {
+    const auto to_device = [&](const rect& area) {
+        const double twip = c.pixel / 15.0;
+        return QRectF(c.origin.x() + area.left * twip, c.origin.y() + area.top * twip, area.width * twip,
+                      area.height * twip);
+    };
+    const double glow = c.show.win.glow;
+    if (glow > 0.01) {
+        const QRectF band = to_device(win_line_area());
+        c.painter.setBrush(Qt::NoBrush);
+        for (int ring = 0; ring < 5; ++ring) { // light that fades from the frame inwards
+            QColor light = mix(QColor(255, 214, 92), Qt::white, 0.5 - 0.1 * ring);
+            light.setAlphaF(static_cast<float>(glow * (ring == 0 ? 0.95 : 0.42 - 0.08 * ring)));
+            const double in = (3 + 2.4 * ring) * c.pixel;
+            c.painter.setPen(QPen(light, 2.6 * c.pixel));
+            c.painter.drawRoundedRect(band.adjusted(in, in, -in, -in), 9 * c.pixel, 9 * c.pixel);
+        }
+    }
+    const art face = p.dollars ? art::coinpic1 : art::coinpic;
+    const int size = std::max(1, static_cast<int>(coin_size * c.pixel));
+    for (const coin& flying : c.show.win.coins) {
+        if (flying.opacity <= 0)
+            continue;
+        c.painter.setOpacity(flying.opacity);
+        c.painter.drawPixmap(c.origin.x() + static_cast<int>(flying.x * c.pixel) - size / 2,
+                             c.origin.y() + static_cast<int>(flying.y * c.pixel) - size / 2,
+                             picture(c.pictures, face, {size, size}));
+        c.painter.setOpacity(1);
     }
 }
 

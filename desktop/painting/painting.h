@@ -4,8 +4,9 @@
 #include "desktop/painting/dotline.h"
 #include "desktop/painting/lamplooks.h"
 #include "desktop/painting/pictures.h"
-#include "desktop/painting/runningline.h"
+#include "desktop/painting/reelroll.h"
 #include "panel/sheet.h"
+#include "show/stage.h"
 
 #include <QColor>
 #include <QPainter>
@@ -18,15 +19,17 @@ struct canvas {
     picture_store& pictures;
     dot_store& dots;
     lamp_store& lamps;
-    double pixel; // device pixels to a pixel of the panel
-    const running_line* running = nullptr;
+    strip_store& strips;
+    const stage& show;
+    double pixel;  // device pixels to a pixel of the panel
+    QPoint origin; // of the screen, device pixels
 };
 
 // The ground on which every screen stands.
 QColor ground_colour();
-// The art that an element shows: on a dollar machine the reels show their dollar versions.
-art shown_art(const panel&, element);
 
 void draw_element(canvas&, const panel&, element, QRect box, bool pressed);
+// What lies over all elements of main: the glow round the win line, and coins in flight.
+void draw_win(canvas&, const panel&);
 
 } // namespace hustle::desktop

@@ -17,8 +17,6 @@ constexpr coming_art main_arts[] = {
     {art::holdpicdark, art::cancelpiclight, hold1},
     {art::startpicdark, art::startpiclight, start},
     {art::nudgenowpicdark, art::nudgenowpiclight, nudgenow},
-    {art::effect1, art::effect4, reel1},
-    {art::cbp, art::pcb, reel1},
     {art::nudge0, art::nudge12345, picture1},
     {art::trailheldpic, art::trailheldpic, trailheld},
     {art::title, art::title2, toplogo},
@@ -39,19 +37,19 @@ quint64 key(art a, QSize size) {
            static_cast<quint64>(size.height());
 }
 
-QPixmap draw(art a, QSize size) {
-    QPixmap pixmap(size);
+} // namespace
+
+QPixmap draw_art(art a, QSizeF size) {
+    QPixmap pixmap(size.toSize());
     pixmap.fill(Qt::transparent);
     const std::string text = svg(a);
     QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
-    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    renderer.render(&painter, QRectF(QPointF(0, 0), size));
     return pixmap;
 }
-
-} // namespace
 
 const QPixmap& picture(picture_store& store, art a, QSize size) {
     const auto sharp = store.sharp.constFind(key(a, size));
@@ -62,7 +60,7 @@ const QPixmap& picture(picture_store& store, art a, QSize size) {
         if (old != store.latest.cend())
             return *old;
     }
-    store.latest.insert(static_cast<int>(a), draw(a, size));
+    store.latest.insert(static_cast<int>(a), draw_art(a, size));
     return *store.sharp.insert(key(a, size), store.latest.value(static_cast<int>(a)));
 }
 
@@ -74,7 +72,7 @@ void begin_settling(picture_store& store) {
 QIcon program_icon() {
     QIcon icon;
     for (const int size : {16, 32, 48, 128})
-        icon.addPixmap(draw(row(About_picIcon).picture, {size, size}));
+        icon.addPixmap(draw_art(row(About_picIcon).picture, QSizeF(size, size)));
     return icon;
 }
 

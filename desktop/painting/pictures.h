@@ -20,6 +20,9 @@ struct picture_store {
     bool settling = false;
 };
 
+// Draws a picture that is kept elsewhere; the size in device pixels.
+QPixmap draw_art(art, QSizeF);
+
 // A picture at a size in device pixels. While the store is settling it may have another size.
 const QPixmap& picture(picture_store&, art, QSize device_pixels);
 // Forgets what was drawn for another size.

@@ -1,5 +1,7 @@
 #include "desktop/session/session.h"
 
+#include "desktop/session/motion.h"
+
 #include "core/start.h"
 #include "desktop/platform/sound.h"
 #include "desktop/window/geometry.h"
@@ -139,6 +141,7 @@ void start_session(session& s) {
     QObject::connect(&s.wake, &QTimer::timeout, &s.wake, [&s] { deliver_due(s); });
     s.ahead.setInterval(ahead_ms);
     QObject::connect(&s.ahead, &QTimer::timeout, &s.ahead, [&s] { draw_one(s); });
+    start_motion(s);
     reset_game(s.g, QTime::currentTime().msecsSinceStartOfDay());
     boot(s.g);
     settle(s.g);
@@ -160,6 +163,7 @@ void end_session(session& s) {
         s.view.place = s.window->saveGeometry();
     save_view_settings(s.view);
     s.wake.stop();
+    s.picture.stop();
     s.ahead.stop();
     for (screenview* view : s.side)
         delete view;
@@ -186,6 +190,7 @@ void activated(session& s, screen what) {
 
 void refresh(session& s) {
     set_loudness(s);
+    take_in_motion(s);
     for (const screen_row& r : screen_rows())
         if (!is_main_pair(r.id))
             refresh_side(s, r.id);
@@ -196,8 +201,10 @@ void refresh(session& s) {
         if (!s.window->isVisible())
             show_main_window(*s.window, s.view);
     }
-    if (!s.g.p.over)
+    if (!s.g.p.over) {
+        move_on(s);
         raise_front(s);
+    }
 }
 
 void draw_ahead(session& s) {

@@ -8,6 +8,7 @@
 #include "desktop/session/qtworld.h"
 #include "desktop/window/viewsettings.h"
 #include "screens/dispatch.h"
+#include "show/stage.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -32,6 +33,8 @@ struct session {
     bool seen = false; // something has been painted
     QTimer wake;       // the next tick
     QTimer ahead;      // draws pictures that will be needed, one at a time
+    stage show;        // what moves beyond the panel
+    QTimer picture;    // the next picture of it
 
     mainwindow* window = nullptr;                 // of main and of the board
     std::array<screenview*, screen_count> side{}; // windows of the other screens, null while closed

@@ -25,7 +25,8 @@ QRect scaled(const element_row& r, const element_state& state, double pixel) {
             QPoint(at(r.place.left + r.place.width) - 1, at(state.top + r.place.height) - 1)};
 }
 
-QImage painted(const panel& p, screen what, int width) {
+QImage painted(const game& g, screen what, int width) {
+    const panel& p = g.p;
     const double pixel = width / (row(what).width / 15.0);
     QImage image(width, static_cast<int>(std::lround(row(what).height / 15.0 * pixel)), QImage::Format_RGB32);
     image.fill(desktop::ground_colour());
@@ -35,7 +36,11 @@ QImage painted(const panel& p, screen what, int width) {
     desktop::picture_store pictures;
     desktop::dot_store dots;
     desktop::lamp_store lamps;
-    desktop::canvas c{painter, pictures, dots, lamps, pixel};
+    desktop::strip_store strips;
+    stage show;
+    take_in(show, g, 0);
+    advance(show, g, 0);
+    desktop::canvas c{painter, pictures, dots, lamps, strips, show, pixel, {}};
     for (const bool pictures_first : {true, false})
         for (const element_row& r : elements_of(what))
             if ((r.what == kind::picture) == pictures_first)
@@ -70,7 +75,7 @@ int main(int argc, char** argv) {
     }
     bool saved = false;
     const int status = script::run_script(script, argv[1], std::cout, std::cerr, [&](const game& g) {
-        saved = painted(g.p, what->id, width).save(QString::fromLocal8Bit(argv[3]));
+        saved = painted(g, what->id, width).save(QString::fromLocal8Bit(argv[3]));
     });
     if (status == 0 && !saved)
         std::fputs("panelshot: the picture could not be written\n", stderr);

@@ -48,8 +48,6 @@ screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
         update();
         draw_ahead(played);
     });
-    running_step.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&running_step, &QTimer::timeout, this, [this] { move_line(); });
     make_text_boxes();
 }
 
@@ -90,20 +88,13 @@ QRect screenview::dirty_rect(element e) const {
     return widget_rect(e).adjusted(-reach, -reach, reach, reach);
 }
 
-void screenview::follow(element e) {
-    follow_line(running, played.g.p, e);
-    if (running.on == e)
-        running_step.start(running.step_ms);
-    else if (running.on == element::total)
-        running_step.stop();
-}
-
-void screenview::move_line() {
-    const element e = running.on;
-    run_on(running);
-    if (running.on == element::total)
-        running_step.stop();
-    update(widget_rect(e));
+void screenview::repaint_area(const hustle::rect& area) {
+    const double twip = scale / twips_to_pixel / devicePixelRatioF();
+    const QPointF corner = QPointF(origin) / devicePixelRatioF();
+    update(QRectF(corner.x() + area.left * twip, corner.y() + area.top * twip, area.width * twip,
+                  area.height * twip)
+               .toAlignedRect()
+               .adjusted(-1, -1, 1, 1));
 }
 
 void screenview::refresh() {
@@ -114,8 +105,6 @@ void screenview::refresh() {
         if (!state.touched || r.what == kind::entry)
             continue;
         state.touched = false;
-        if (r.what == kind::line)
-            follow(r.id);
         const QRect now = dirty_rect(r.id);
         update(before == now ? now : before.united(now));
         before = now;
@@ -135,13 +124,15 @@ void screenview::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), ground_colour());
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
-    canvas c{painter, pictures, dots, lamps, scale, &running};
+    canvas c{painter, pictures, dots, lamps, strips, played.show, scale, origin};
     const QRegion& region = event->region();
     for (const bool pictures_first : {true, false}) // no picture covers what can be pressed or read
         for (const element_row& r : elements_of(what))
             if ((r.what == kind::picture) == pictures_first && !is_edited(r.id) &&
                 region.intersects(dirty_rect(r.id)))
                 draw_element(c, played.g.p, r.id, device_rect(r.id), r.id == held);
+    if (what == hustle::screen::main)
+        draw_win(c, played.g.p);
     has_painted = true;
     if (!played.seen) {
         played.seen = true;

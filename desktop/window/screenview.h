@@ -22,6 +22,8 @@ public:
 
     // Repaints what has changed since the last time.
     void refresh();
+    // Repaints a part of the screen, in twips.
+    void repaint_area(const hustle::rect& twips);
     // Makes the children that a screen reader and the Tab key find; once.
     void speak();
     // Draws one picture that is likely to be needed; false when all are there.
@@ -55,8 +57,6 @@ private:
     void make_text_boxes();
     void place_children();
     void set_held(element);
-    void follow(element);
-    void move_line();
     bool draw_now(art, element on);
 
     const hustle::screen what;
@@ -65,9 +65,8 @@ private:
     picture_store pictures;
     dot_store dots;
     lamp_store lamps;
+    strip_store strips;
     QTimer settled;
-    running_line running; // a line on its way
-    QTimer running_step;
     element held = element::total; // the button under a mouse key that is down
     std::vector<std::pair<element, QLineEdit*>> text_boxes;
     QLabel* too_long = nullptr; // said of a name of which not all will be seen

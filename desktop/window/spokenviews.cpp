@@ -2,7 +2,7 @@
 
 #include "desktop/session/session.h"
 #include "desktop/window/screenview.h"
-#include "desktop/window/spokennames.h"
+#include "show/spokennames.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -93,7 +93,7 @@ void listen(spoken_views& views, screenview& view) {
     const qint64 now = view.played.real.elapsed();
     std::erase_if(views.changed, [&](std::size_t index) {
         spoken_view& v = views.all[index];
-        const QString name = spoken_name(view.played.g, v.id);
+        const QString name = QString::fromStdString(spoken_name(view.played.g, v.id));
         if (!name.isEmpty() && name != v.coming) { // the dark frame of a flashing text is nothing new
             v.coming = name;
             v.since = now;
@@ -117,7 +117,7 @@ void make_spoken(spoken_views& views, screenview& view) {
     views.listener = new QTimer(&view);
     QObject::connect(views.listener, &QTimer::timeout, &view, [&] { listen(views, view); });
     for (const element_row& r : elements_of(view.shown_screen())) {
-        const QString name = spoken_name(view.played.g, r.id);
+        const QString name = QString::fromStdString(spoken_name(view.played.g, r.id));
         if (r.what == kind::entry || !is_drawn_text(r.id) || (name.isEmpty() && r.what != kind::line))
             continue;
         QWidget* child = nullptr;
@@ -147,7 +147,7 @@ void tell_changed(spoken_views& views, screenview& view, element e) {
     keep_focus(views, view, *found);
     if (found->pending)
         return;
-    const QString name = spoken_name(view.played.g, e);
+    const QString name = QString::fromStdString(spoken_name(view.played.g, e));
     if (name.isEmpty() || name == found->coming)
         return;
     found->pending = true;

@@ -2,10 +2,10 @@
 #include "art/dotfont.h"
 #include "core/start.h"
 #include "desktop/session/clock.h"
-#include "desktop/window/spokennames.h"
 #include "panel/sheet.h"
 #include "panel/stillworld.h"
 #include "screens/dispatch.h"
+#include "show/spokennames.h"
 
 #include <gtest/gtest.h>
 
@@ -68,9 +68,9 @@ TEST(Names, TellEveryButtonLampAndLine) {
     for (const screen_row& s : screen_rows())
         for (const element_row& r : elements_of(s.id))
             if (r.what == kind::button || r.what == kind::clicked || r.what == kind::push) {
-                EXPECT_FALSE(spoken_name(b.g, r.id).isEmpty()) << s.name << "." << r.name;
+                EXPECT_FALSE(spoken_name(b.g, r.id).empty()) << s.name << "." << r.name;
             }
-    EXPECT_EQ(spoken_name(b.g, element::displayline), "0.00 20");
+    EXPECT_EQ(spoken_name(b.g, element::displayline), "Bank 0 pounds, 20 credits");
     EXPECT_EQ(spoken_name(b.g, element::reel1), "Reel 1: bell");
     set_caption(b.g.p, element::displayline, "    xxx I LIKE IT xxx");
     EXPECT_EQ(spoken_name(b.g, element::displayline), "I LIKE IT");
