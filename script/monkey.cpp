@@ -1,12 +1,8 @@
 #include "script/monkey.h"
 
-#include "core/start.h"
-#include "panel/sheet.h"
-#include "screens/dispatch.h"
+#include "script/operations.h"
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
 
 namespace hustle::script {
 
@@ -51,18 +47,7 @@ constexpr element rare[] = {element::newgame,
                             element::Highscore_Picture2,
                             element::About_cmdOK};
 
-constexpr std::int64_t patience = 60 * 60 * 1000; // ms without a new play that mean a dead machine
-constexpr int start_up = 350;                     // ms until main stands
-
-// The money alone: a whole copy a tick would be slow.
-machine money(const game& g) {
-    machine m;
-    m.bank = g.m.bank;
-    m.win = g.m.win;
-    m.credits = g.m.credits;
-    m.moneyout = g.m.moneyout;
-    return m;
-}
+constexpr int keys[] = {8, 13, 27, 32, 48, 49, 50, 51, 67, 72, 76, 84, 88, 112, 113, 114};
 
 // The monkey's own choices; the machine has a generator of its own.
 struct monkey {
@@ -102,9 +87,24 @@ struct monkey {
                 make(deed::bomb, static_cast<int>(bomb));
     }
 
+    // What no player comes to in an evening: every element, key, close and operation.
+    void stray() {
+        const auto any_of = [this](std::size_t n) { return choose(static_cast<int>(n)); };
+        if (choose(20) == 0)
+            press(deed::press, static_cast<element>(any_of(element_count)));
+        if (choose(30) == 0)
+            make(deed::key, keys[any_of(std::size(keys))] * 16 + any_of(screen_count));
+        if (choose(300) == 0)
+            make(deed::close, any_of(screen_count));
+        if (choose(200) == 0)
+            make(deed::call, any_of(operation_rows().size()));
+    }
+
     void step() {
         const machine& m = on.g.m;
         shuffle();
+        if (on.all)
+            stray();
         const bool broke = m.credits <= 0.1f && m.bank <= 0.1f && m.win == 0;
         if (broke && choose(40) == 0)
             press(deed::press_yes, element::newgame);
@@ -118,86 +118,14 @@ struct monkey {
 
 } // namespace
 
-watched::watched(std::uint64_t seed) {
-    world.state = seed;
-    reset_game(g, 43200000);
-    boot(g);
-    deliver(g, start_up);
-}
-
-void watched::make(const move& m) {
-    if (m.what == deed::run)
-        run(m.value);
-    else if (m.what == deed::press || m.what == deed::press_yes)
-        press(m);
-    else
-        script::make(g, world, m);
-}
-
-void watched::fail(const std::string& what) {
-    if (!fault.empty())
-        return;
-    fault = what;
-    fault_at = g.p.now;
-}
-
-void watched::press(const move& p) {
-    const machine before = money(g);
-    script::make(g, world, p);
-    const machine& m = g.m;
-    const bool new_game = m.credits == 20 && m.bank == 0; // by the menu or by the hidden presses
-    if (m.bank != before.bank && !new_game)
-        fail("a press moved the bank");
-    if (m.credits == before.credits - 1 || new_game)
-        last_play = g.p.now;
-}
-
-void watched::run(int ms) {
-    const std::int64_t until = g.p.now + ms;
-    timer which{};
-    while (fault.empty() && take_tick(g.p, until, which)) {
-        ++ticks;
-        const machine before = money(g);
-        run_tick(g, which);
-        settle(g);
-        check_tick(which, before);
-        sign(static_cast<std::uint64_t>(which));
-        sign(static_cast<std::uint64_t>(g.p.now));
-        for (const single value : {g.m.bank, g.m.win, g.m.pcent, g.m.winbank, g.m.streakbank})
-            sign(std::bit_cast<std::uint32_t>(value));
-    }
-    g.p.now = std::max(g.p.now, until);
-    if (g.p.now - last_play > patience)
-        fail("no play has begun for an hour");
-}
-
-void watched::check_tick(timer which, const machine& before) {
-    machine paid = before;
-    const machine& m = g.m;
-    if (which == timer::wintobank && m.bank != before.bank) {
-        add(paid.bank, 0.2);
-        add(paid.win, -0.2);
-        add(paid.moneyout, 0.2);
-        if (m.win != paid.win || m.moneyout != paid.moneyout)
-            fail("a payout step lost money");
-    } else if (which == timer::banktocredits && m.bank != before.bank) {
-        add(paid.bank, -0.25);
-        if (m.credits != before.credits + 1)
-            fail("a transfer step lost a credit");
-    }
-    if (m.bank != paid.bank)
-        fail("the bank moved by " + std::string(row(which).name));
-    if (m.win != m.win || std::abs(m.win) > 200)
-        fail("a win out of nothing");
-}
-
-outing let_loose(std::uint64_t seed, long ticks) {
-    watched w(seed);
-    outing o{seed, 0, {}, {}};
+outing let_loose(std::uint64_t seed, long ticks, bool wholly) {
+    watched w(seed, wholly);
+    outing o{seed, 0, 0, {}, {}};
     monkey ape{w, seed ^ 0x5eedULL, o.moves};
     while (w.fault.empty() && w.ticks < ticks)
         ape.step();
     o.signature = w.signature;
+    o.whole = w.whole;
     o.fault = w.fault;
     return o;
 }
@@ -225,6 +153,13 @@ std::vector<move> shortest(const outing& o, long ticks) {
                 from += piece;
         }
     return kept;
+}
+
+std::uint64_t whole_signature() {
+    std::uint64_t all = 0;
+    for (std::uint64_t seed = 1; seed <= 16; ++seed)
+        all = all * 31 + let_loose(seed, 25'000, true).whole;
+    return all;
 }
 
 std::uint64_t signature() { return let_loose(2026, 400'000).signature; }

@@ -3,42 +3,22 @@
 // a press nor a running timer leads on.
 #pragma once
 
-#include "script/moves.h"
+#include "script/watched.h"
 
-#include <string>
 #include <vector>
 
 namespace hustle::script {
 
-// A machine that is watched while moves are made on it.
-struct watched {
-    monkeyworld world;
-    game g{world};
-    std::int64_t last_play = 0; // ms on the panel's clock
-    long ticks = 0;
-    std::uint64_t signature = 0xcbf29ce484222325ULL; // of every tick and the money after it
-    std::string fault;                               // what did not hold; empty while all does
-    std::int64_t fault_at = 0;                       // ms
-
-    explicit watched(std::uint64_t seed);
-    void make(const move&);
-
-private:
-    void fail(const std::string& what);
-    void press(const move&);
-    void run(int ms);
-    void check_tick(timer, const machine& before);
-    void sign(std::uint64_t value) { signature = (signature ^ value) * 0x100000001b3ULL; }
-};
-
 // What a monkey did, up to `ticks` or to the first fault.
 struct outing {
     std::uint64_t seed;
-    std::uint64_t signature;
+    std::uint64_t signature; // see watched
+    std::uint64_t whole;
     std::string fault; // empty where all held
     std::vector<move> moves;
 };
-outing let_loose(std::uint64_t seed, long ticks);
+// `wholly` also goes astray, signs all that moves, and lets the money be.
+outing let_loose(std::uint64_t seed, long ticks, bool wholly = false);
 
 // Fewer moves that end in the same fault: pieces are left out while it stays. Replays at most so
 // many ticks in all.
@@ -46,5 +26,7 @@ std::vector<move> shortest(const outing&, long ticks = 300'000'000);
 
 // One number for the behaviour of the whole machine: of a long, fixed, seeded outing.
 std::uint64_t signature();
+// The same of every field, lamp, text, timer and sound, with strays to every corner. Slower.
+std::uint64_t whole_signature();
 
 } // namespace hustle::script

@@ -1,58 +1,75 @@
 #include "script/moves.h"
 
+#include "panel/sheet.h"
 #include "screens/dispatch.h"
 #include "script/names.h"
+#include "script/operations.h"
 
 namespace hustle::script {
 
 namespace {
 
+element as_element(int value) { return static_cast<element>(value); }
+screen as_screen(int value) { return static_cast<screen>(value & 15); }
+const operation_row& as_operation(int value) { return operation_rows()[static_cast<std::size_t>(value)]; }
+
+void press(game& g, int e) { apply(g, {.what = input::kind::press, .on = as_element(e)}); }
+void key(game& g, int value) {
+    apply(g, {.what = input::kind::key, .where = as_screen(value), .code = value >> 4});
+}
+void close(game& g, int s) { apply(g, {.what = input::kind::close, .where = as_screen(s)}); }
+void call(game& g, int operation) { as_operation(operation).run(g); }
+
+std::string element_text(int e) { return full_name(as_element(e)); }
+std::string number_text(int value) { return std::to_string(value); }
+std::string bomb_text(int e) { return element_text(e) + ".art bombiconlight"; }
+std::string screen_text(int s) { return std::string(row(as_screen(s)).name); }
+std::string key_text(int value) { return number_text(value >> 4) + " " + screen_text(value); }
+std::string call_text(int operation) {
+    const operation_row& o = as_operation(operation);
+    return std::string(row(o.where).name) + "." + std::string(o.name);
+}
+
 struct deed_row {
+    deed what;
     std::string_view begins; // the line up to the value
+    std::string (*rest)(int);
     void (*make)(game&, int);
 };
 
+// clang-format off
 constexpr deed_row deeds[] = {
-    {"press ", nullptr},
-    {"answer yes\npress ", nullptr},
-    {"run ", nullptr},
-    {"set pairholds ", [](game& g, int to) { set(g.m.pairholds, to); }},
-    {"set moneyout ", [](game& g, int to) { g.m.moneyout = static_cast<single>(to); }},
-    {"set feature.featurerung ", [](game& g, int to) { set(g.b.featurerung, to); }},
-    {"set feature.shots ", [](game& g, int to) { set(g.b.shots, to); }},
-    {"set ", [](game& g, int e) { set_picture(g.p, static_cast<element>(e), art::bombiconlight); }},
+    {deed::press,       "press ",             element_text, press},
+    {deed::press_yes,   "answer yes\npress ", element_text, press},
+    {deed::run,         "run ",               number_text,  [](game&, int) {}},
+    {deed::pairholds,   "set pairholds ",     number_text,  [](game& g, int to) { set(g.m.pairholds, to); }},
+    {deed::moneyout,    "set moneyout ",      number_text,
+                        [](game& g, int to) { g.m.moneyout = static_cast<single>(to); }},
+    {deed::featurerung, "set feature.featurerung ", number_text,
+                        [](game& g, int to) { set(g.b.featurerung, to); }},
+    {deed::shots,       "set feature.shots ", number_text,  [](game& g, int to) { set(g.b.shots, to); }},
+    {deed::bomb,        "set ",               bomb_text,
+                        [](game& g, int e) { set_picture(g.p, as_element(e), art::bombiconlight); }},
+    {deed::key,         "key ",               key_text,     key},
+    {deed::close,       "close ",             screen_text,  close},
+    {deed::call,        "call ",              call_text,    call},
 };
+// clang-format on
 
 const deed_row& row(deed d) { return deeds[static_cast<std::size_t>(d)]; }
-
-void press(game& g, element e) {
-    apply(g, {.what = input::kind::press, .on = e});
-    settle(g);
-}
 
 } // namespace
 
 void make(game& g, monkeyworld& w, const move& m) {
-    if (row(m.what).make != nullptr)
-        return row(m.what).make(g, m.value);
-    if (m.what == deed::run)
-        return;
     w.yes = m.what == deed::press_yes;
-    press(g, static_cast<element>(m.value));
+    row(m.what).make(g, m.value);
+    settle(g);
 }
 
 std::string written(std::uint64_t seed, std::span<const move> moves) {
     std::string text = "seed " + std::to_string(seed) + "\n";
-    for (const move& m : moves) {
-        text += row(m.what).begins;
-        if (m.what == deed::press || m.what == deed::press_yes)
-            text += full_name(static_cast<element>(m.value));
-        else if (m.what == deed::bomb)
-            text += full_name(static_cast<element>(m.value)) + ".art bombiconlight";
-        else
-            text += std::to_string(m.value);
-        text += '\n';
-    }
+    for (const move& m : moves)
+        text.append(row(m.what).begins).append(row(m.what).rest(m.value)).append("\n");
     return text;
 }
 

@@ -21,24 +21,37 @@ enum class deed : std::uint8_t {
     featurerung,
     shots,
     bomb, // an element that shows its bomb
+    // Only of the monkey that goes everywhere.
+    key,   // a code, and a screen in the lowest four bits
+    close, // a screen
+    call,  // an operation of operation_rows()
 };
 
 struct move {
     deed what;
-    int value; // an element, ms, or what the field becomes
+    int value; // an element, ms, what the field becomes, or as said above
 };
 
 struct monkeyworld final : stillworld {
     bool yes = false;      // the answer to a question
     bool answered = false; // a box has shown since this was cleared
 
+    std::uint64_t heard = 0; // of all that sounded, was asked or was waited for
+
+    void play(sound s) override { hear(static_cast<std::uint64_t>(s) + 1); }
+    void midi(std::string_view command) override { hear(command.size() + 200); }
+    void wait(int ms) override { hear(static_cast<std::uint64_t>(ms) + 1000); }
     bool box(const message& m) override {
+        hear(m.text.size() + 100);
         answered = true;
         return m.yes_or_no ? yes : true;
     }
+
+private:
+    void hear(std::uint64_t what) { heard = heard * 31 + what; }
 };
 
-// Makes a press or sets a field; `run` is the business of who counts the ticks.
+// Makes any move but `run`, which is the business of who counts the ticks.
 void make(game&, monkeyworld&, const move&);
 // A script that makes the same moves on a machine with this seed.
 std::string written(std::uint64_t seed, std::span<const move>);

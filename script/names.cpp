@@ -99,6 +99,7 @@ void names::add_field(std::string name, slot where) {
     else if (const auto* flag = std::get_if<word*>(&where))
         store = [this, v = *flag](const value& to) { *v = kept.emplace_back(to.text); };
     cells.push_back({std::move(name), where, std::move(store)});
+    places.push_back(where);
 }
 
 void names::add_elements(panel& p) {

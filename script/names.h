@@ -47,6 +47,8 @@ public:
 
     // All names, sorted.
     std::span<const cell> all() const { return cells; }
+    // Where the fields stand, without the panel.
+    std::span<const slot> fields() const { return places; }
     // Throws script_error for a name that there is not.
     const cell& find(std::string_view name) const;
 
@@ -60,6 +62,7 @@ private:
     void sort();
 
     std::vector<cell> cells;
+    std::vector<slot> places;
     std::deque<std::string> kept; // the texts of words that scripts have set
 };
 

@@ -14,8 +14,10 @@ long length() {
     return told != nullptr ? std::atol(told) : 10'000'000;
 }
 
-// A change that moves it says so, and why.
+// A change that moves one of these says so, and why.
 TEST(Signature, ALongSeededRunGoesAsItWent) { EXPECT_EQ(signature(), 4852729874591000472ULL); }
+
+TEST(Signature, EveryLampStandsAsItStood) { EXPECT_EQ(whole_signature(), 16077043126545102174ULL); }
 
 TEST(Monkey, ItsFaultIsToldByTheFewestMoves) {
     outing o = let_loose(7, 20'000);
