@@ -275,6 +275,21 @@ void run_line(runner& r, std::string_view line) {
     throw script_error("unknown command " + written(first));
 }
 
+int run_lines(runner& r) {
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    if (r.rest.starts_with(byte_order_mark))
+        r.rest.remove_prefix(byte_order_mark.size());
+    try {
+        for (std::string_view line; next_line(r, line);)
+            run_line(r, line);
+    } catch (const script_error& wrong) {
+        r.out.flush();
+        r.err << r.file << ':' << r.line << ": " << wrong.what() << '\n';
+        return 2;
+    }
+    return r.status;
+}
+
 } // namespace
 
 int run_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err) {
@@ -283,20 +298,18 @@ int run_script(std::string_view text, std::string_view name, std::ostream& out, 
 
 int run_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err,
                const std::function<void(const game&)>& at_end) {
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    if (text.starts_with(byte_order_mark))
-        text.remove_prefix(byte_order_mark.size());
     runner r(text, name, out, err);
-    try {
-        for (std::string_view line; next_line(r, line);)
-            run_line(r, line);
-    } catch (const script_error& wrong) {
-        out.flush();
-        err << name << ':' << r.line << ": " << wrong.what() << '\n';
-        return 2;
-    }
-    at_end(r.s.g);
-    return r.status;
+    const int status = run_lines(r);
+    if (status != 2)
+        at_end(r.s.g);
+    return status;
+}
+
+int watch_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err,
+                 const std::function<void(game&)>& passing) {
+    runner r(text, name, out, err);
+    r.s.passing = passing;
+    return run_lines(r);
 }
 
 } // namespace hustle::script

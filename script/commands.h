@@ -16,5 +16,9 @@ int run_script(std::string_view text, std::string_view file, std::ostream& out, 
 // The same, and shows the machine as the script has left it.
 int run_script(std::string_view text, std::string_view file, std::ostream& out, std::ostream& err,
                const std::function<void(const game&)>& at_end);
+// The same, and tells `passing` each time that the clock reaches, before anything happens then: who
+// paints sees every state for as long as it stood.
+int watch_script(std::string_view text, std::string_view file, std::ostream& out, std::ostream& err,
+                 const std::function<void(game&)>& passing);
 
 } // namespace hustle::script

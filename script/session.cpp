@@ -164,6 +164,7 @@ bool session::deliver_one(std::int64_t target) {
     timer tick{};
     if (over() || g.p.now > target || !take_tick(g.p, target, tick))
         return false;
+    passing(g);
     event(tick_names[static_cast<std::size_t>(tick)], [&] {
         run_tick(g, tick);
         return true;
@@ -174,8 +175,10 @@ bool session::deliver_one(std::int64_t target) {
 void session::run(std::int64_t target) {
     while (deliver_one(target)) {
     }
-    if (!over())
-        g.p.now = std::max(g.p.now, target);
+    if (over())
+        return;
+    g.p.now = std::max(g.p.now, target);
+    passing(g);
 }
 
 } // namespace hustle::script

@@ -8,6 +8,7 @@
 #include "script/scriptworld.h"
 
 #include <cstdint>
+#include <functional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -38,6 +39,8 @@ public:
     game g{w};
     names known{g, w};
     double clock = 43200; // seconds since midnight when the process starts
+    // Told before anything happens at a new time, while the machine still stands as it did till then.
+    std::function<void(game&)> passing = [](game&) {};
 
     explicit session(std::ostream& out);
 
