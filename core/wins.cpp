@@ -29,6 +29,16 @@ bool any_pair(const machine& m) {
 
 } // namespace
 
+single line_prize(word a, word b, word c) {
+    if (a == b && b == c) {
+        for (const line_row& row : lines)
+            if (row.symbol == a)
+                return row.prize;
+        return 0;
+    }
+    return is_seven(a) && is_seven(b) && is_seven(c) ? mixed_sevens : 0;
+}
+
 bool forms_pair(word a, word b) {
     const auto tail = [](word w) { return w.substr(w.size() > 3 ? w.size() - 3 : 0); };
     return tail(a) == tail(b);
@@ -46,7 +56,7 @@ single line_prize(const machine& m) {
 
 void checkline(game& g) {
     machine& m = g.m;
-    if (const single prize = line_prize(m); prize > 0)
+    if (const single prize = line_prize(m.reel1sym, m.reel2sym, m.reel3sym); prize > 0)
         m.win = prize;
     if (m.win < 1)
         return;

@@ -1,0 +1,41 @@
+// The files of the lab: a result as JSON with every machine's counts, and as CSV.
+#pragma once
+
+#include "lab/figures.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace hustle::lab {
+
+// What is wrong with a file, in a sentence that names it.
+struct file_error : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+struct result {
+    terms t;
+    int shard = 1, of = 1; // this share of the run: the machines whose number leaves shard - 1 over `of`
+    std::vector<record> machines; // by number; in a broken-off run some have fewer plays, or are missing
+
+    bool has(int machine) const; // all of its plays are there
+    bool complete() const;       // all machines of the share
+};
+
+// The machines of a share, by number.
+std::vector<int> machines_of(const terms&, int shard, int of);
+
+std::string file_text(const result&);
+std::string csv_text(const result&);
+// Throws file_error where the text is damaged or not the lab's.
+result read_result(const std::string& text, const std::string& name);
+
+std::string read_file(const std::string& name); // throws file_error
+// The old file or the new one is there, whatever happens. Throws file_error.
+void write_file(const std::string& name, const std::string& text);
+// The result as JSON, and as CSV beside it.
+void save(const result&, const std::string& name);
+std::string csv_name(const std::string& name);
+
+} // namespace hustle::lab

@@ -1,0 +1,118 @@
+// hustlelab: plays the real machine by the million and tells what it pays.
+#include "lab/policies.h"
+#include "lab/program/merge.h"
+#include "lab/program/report.h"
+#include "lab/program/run.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace {
+
+using namespace hustle::lab;
+
+std::string policy_help() {
+    std::string text = "Who plays:";
+    for (const policy_row& p : policies())
+        text.append("\n").append(p.name).append(": ").append(p.text);
+    return text;
+}
+
+// "2/8": share 2 of 8.
+void read_shard(const std::string& text, run_options& o) {
+    int shard = 0, of = 0, end = 0;
+    if (std::sscanf(text.c_str(), "%d/%d%n", &shard, &of, &end) != 2 ||
+        end != static_cast<int>(text.size()) || of < 1 || shard < 1 || shard > of)
+        throw CLI::ValidationError("--shard", "'" + text + "' is no share like 2/8");
+    o.shard = shard;
+    o.of = of;
+}
+
+void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& shard) {
+    CLI::App* run = app.add_subcommand("run", "Play machines and count what they pay");
+    std::vector<std::string> names;
+    for (const policy_row& p : policies())
+        names.emplace_back(p.name);
+    run->add_option("--policy", policy, policy_help())->check(CLI::IsMember(names))->capture_default_str();
+    run->add_option("--machines", o.t.machines, "Independent machines")
+        ->check(CLI::Range(1, 1'000'000))
+        ->capture_default_str();
+    run->add_option("--plays", o.t.plays, "Plays on each machine")
+        ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{10'000'000'000}))
+        ->capture_default_str();
+    run->add_option("--warmup", o.t.warmup, "Plays on each machine before these that are left out")
+        ->check(CLI::Range(std::uint64_t{0}, std::uint64_t{10'000'000'000}))
+        ->capture_default_str();
+    run->add_option("--seed", o.t.seed, "The seed of the whole run")->capture_default_str();
+    run->add_option("--threads", o.threads, "Threads; 0 for one on each core")
+        ->check(CLI::Range(0, 1024))
+        ->capture_default_str();
+    run->add_option("--reaction", o.t.reaction, "Milliseconds from the player's sight to his press")
+        ->check(CLI::Range(0, 10'000))
+        ->capture_default_str();
+    run->add_option("--rung", o.t.rung, "Rung of the cash ladder at which a gambler collects")
+        ->check(CLI::Range(1, 10))
+        ->capture_default_str();
+    run->add_option("--patience", o.t.patience,
+                    "Minutes of machine time without a new play that end a machine")
+        ->check(CLI::Range(5, 100'000))
+        ->capture_default_str();
+    run->add_option("--moneyin", o.t.moneyin, "Pounds in the machine's money-in ledger at the start")
+        ->check(CLI::Range(1, 1'000'000))
+        ->capture_default_str();
+    run->add_option("--moneyout", o.t.moneyout, "Pounds in its money-out ledger at the start")
+        ->check(CLI::Range(1, 1'000'000))
+        ->capture_default_str();
+    run->add_option("--shard", shard, "Play one share of the machines: 2/8 is the second of eight");
+    CLI::Option* out = run->add_option("--out", o.out, "Result as JSON; the machines as CSV stand beside it");
+    run->add_flag("--resume", o.resume, "Go on from the whole machines in the result file")->needs(out);
+}
+
+} // namespace
+
+int main(int count, char** words) {
+    CLI::App app{"Plays the machine by the million and tells what it pays."};
+    app.require_subcommand(1);
+    app.set_version_flag("--version", std::string("hustlelab ") + HUSTLE_VERSION);
+    run_options o;
+    std::string policy = "starter", shard, merged_name, page_name;
+    std::vector<std::string> shares, results;
+    add_run(app, o, policy, shard);
+    CLI::App* merge = app.add_subcommand("merge", "Join the shares of a run into the bytes of one run");
+    merge->add_option("FILE", shares, "The shares' result files")->required();
+    merge->add_option("--out", merged_name, "The whole run")->required();
+    CLI::App* report = app.add_subcommand("report", "Write a page with charts and tables");
+    report->add_option("FILE", results, "Result files, shown side by side")->required();
+    report->add_option("--out", page_name, "The page; standard output unless told");
+    try {
+        app.parse(count, words);
+        o.t.policy = find_policy(policy);
+        if (!shard.empty())
+            read_shard(shard, o);
+    } catch (const CLI::ParseError& e) {
+        return app.exit(e);
+    }
+    try {
+        if (app.got_subcommand("run"))
+            return run(o);
+        if (app.got_subcommand(merge)) {
+            const result whole = merged(shares);
+            save(whole, merged_name);
+            std::cout << told(whole);
+            return 0;
+        }
+        std::vector<result> all;
+        for (const std::string& name : results)
+            all.push_back(read_result(read_file(name), name));
+        const std::string page = page_of(all);
+        if (page_name.empty())
+            std::cout << page << std::flush;
+        else
+            write_file(page_name, page);
+        return std::cout.good() ? 0 : 1;
+    } catch (const std::exception& e) {
+        std::cerr << "hustlelab: " << e.what() << '\n';
+        return 1;
+    }
+}
