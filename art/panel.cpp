@@ -155,9 +155,13 @@ void draw_reelframe(pen& p, int) {
                                 {0.86, "#6a3a04"},
                                 {1, "#1a0a04"}})});
     }
-    for (const double x : {4.0, 461.0})
-        path(p, polygon({{x, 157}, {x + (x < 100 ? 4.5 : -4.5), 164}, {x, 171}}),
-             {.fill = "#e8142c", .stroke = "#4a0208", .width = 0.8});
+    for (const double x : {1.0, 464.0}) { // the win line
+        const double in = x < 100 ? 7.5 : -7.5;
+        path(p, polygon({{x, 148}, {x + in, 164}, {x, 180}}),
+             {.fill = across(p, {{0, "#ff5a5a"}, {0.5, "#e8142c"}, {1, "#ff5a5a"}}),
+              .stroke = "#fff2b8",
+              .width = 1});
+    }
 }
 
 void draw_lineframe(pen& p, int) {

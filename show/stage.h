@@ -58,6 +58,7 @@ struct win_motion {
     std::int64_t since = 0;
     single bank = 0; // as last seen
     std::vector<coin> coins;
+    std::int64_t last_coin = -1000; // when the last one left
 };
 
 // What a lamp was told in the last second, and what it shows instead where that flashes too fast.
@@ -105,7 +106,7 @@ const element_state& shown(const stage&, const panel&, element);
 // The band of the win line across the three reels on main, and where the coins fly; twips.
 rect win_line_area();
 rect coin_area();
-inline constexpr int coin_size = 26; // pixels of the panel across
+inline constexpr int coin_size = 36; // pixels of the panel across
 
 // The stop, 1 to 16, whose picture this is in either currency; 0 for any other art.
 int stop_of(art);

@@ -15,8 +15,9 @@ constexpr double breath_ms = 1100; // from one swell to the next: well below thr
 constexpr double two_pi = 6.283185307179586;
 constexpr double most_swell = 0.06;
 constexpr std::int64_t flight_ms = 520;
-constexpr std::size_t most_coins = 9;
-constexpr int picture_ms = 33; // a slow light needs no more than thirty pictures a second
+constexpr std::int64_t coin_gap_ms = 170;         // from one coin to the next
+constexpr std::int64_t reduced_coin_gap_ms = 800; // so that no point sees more than three in a second
+constexpr int picture_ms = 33;                    // a slow light needs no more than thirty pictures a second
 
 // Pixels of the panel: where coins start and where the bank's figures stand.
 constexpr double start_x = 352, start_y = 284, bank_x = 148, bank_y = 89;
@@ -38,18 +39,23 @@ bool win_stands(const game& g) {
 
 void patch_area(stage& s, const rect& area) { s.patches.push_back({screen::main, area}); }
 
+// One after the other they leave from three places along the win line.
+double start_of(std::int64_t born) {
+    return start_x + static_cast<double>(born / coin_gap_ms % 3 - 1) * spread;
+}
+
 void let_coin_rise(stage& s, std::int64_t now) {
-    if (s.win.coins.size() >= most_coins)
+    win_motion& w = s.win;
+    if (now - w.last_coin < (s.reduced ? reduced_coin_gap_ms : coin_gap_ms))
         return;
-    const auto n = static_cast<double>(now / 60 % 5);
-    s.win.coins.push_back({now, start_x + (n - 2) * spread / 2.5, start_y, 0});
+    w.last_coin = now;
+    w.coins.push_back({now, start_of(now), start_y, 0});
 }
 
 void fly(coin& c, std::int64_t now) {
     const double u = std::clamp(static_cast<double>(now - c.born) / flight_ms, 0.0, 1.0);
     const double eased = u * u * (3 - 2 * u);
-    const auto n = static_cast<double>(c.born / 60 % 5);
-    const double from = start_x + (n - 2) * spread / 2.5;
+    const double from = start_of(c.born);
     c.x = from + (bank_x - from) * eased * eased;
     c.y = start_y + (bank_y - start_y) * eased;
     c.opacity = std::min({1.0, u * 8, (1 - u) * 6});

@@ -170,11 +170,11 @@ void draw_win(canvas& c, const panel& p) {
     if (glow > 0.01) {
         const QRectF band = to_device(win_line_area());
         c.painter.setBrush(Qt::NoBrush);
-        for (int ring = 0; ring < 5; ++ring) { // light that fades from the frame inwards
-            QColor light = mix(QColor(255, 214, 92), Qt::white, 0.5 - 0.1 * ring);
-            light.setAlphaF(static_cast<float>(glow * (ring == 0 ? 0.95 : 0.42 - 0.08 * ring)));
+        for (int ring = 4; ring >= 0; --ring) { // light that fades from the frame inwards
+            QColor light = mix(QColor(255, 240, 150), QColor(255, 96, 0), 0.25 * ring);
+            light.setAlphaF(static_cast<float>(glow * (ring == 0 ? 1.0 : 0.75 - 0.15 * ring)));
             const double in = (3 + 2.4 * ring) * c.pixel;
-            c.painter.setPen(QPen(light, 2.6 * c.pixel));
+            c.painter.setPen(QPen(light, (ring == 0 ? 3.2 : 2.6) * c.pixel));
             c.painter.drawRoundedRect(band.adjusted(in, in, -in, -in), 9 * c.pixel, 9 * c.pixel);
         }
     }

@@ -1,0 +1,305 @@
+// What the eye sees beyond the panel: reels that come to rest in time, a belt that never lags, lamps
+// that never flash too fast, hints that hold.
+#include "board/board.h"
+#include "core/bank.h"
+#include "core/nudges.h"
+#include "core/play.h"
+#include "core/reels.h"
+#include "core/start.h"
+#include "core/upward.h"
+#include "core/wins.h"
+#include "panel/sheet.h"
+#include "panel/stillworld.h"
+#include "screens/dispatch.h"
+#include "show/hints.h"
+#include "show/spokennames.h"
+#include "show/stage.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+
+using namespace hustle;
+
+namespace {
+
+struct Show : testing::Test {
+    stillworld w;
+    game g{w};
+    stage s;
+
+    void SetUp() override {
+        reset_game(g, 0);
+        boot(g);
+        settle(g);
+        deliver(g, 400);
+        look();
+    }
+    void look() {
+        take_in(s, g, g.p.now);
+        for (element_state& e : g.p.elements)
+            e.touched = false;
+        advance(s, g, g.p.now);
+        s.patches.clear();
+    }
+    // Lets the machine run, looking at it every millisecond.
+    void run(
+        int ms, const std::function<void()>& each = [] {}) {
+        for (int i = 0; i < ms; ++i) {
+            deliver(g, g.p.now + 1);
+            look();
+            each();
+        }
+    }
+    bool key(int code) {
+        const bool taken =
+            apply(g, {input::kind::key, is_loaded(g.p, screen::feature) ? screen::feature : screen::main,
+                      element::total, code});
+        settle(g);
+        return taken;
+    }
+    void open_board(std::string_view mode, single win) {
+        g.m.win = win;
+        g.m.featuremode = mode;
+        load_screen(g, screen::feature);
+        settle(g);
+    }
+};
+
+constexpr int space = 32;
+
+TEST_F(Show, ReelsRunOutIntoTheWrittenStopWithinTheTimeAndAHeldOneStands) {
+    g.m.holdsoffered = "yes";
+    key('2');
+    ASSERT_TRUE(key(space));
+    bool rolled[3] = {};
+    std::int64_t written[3] = {};
+    art last[3] = {};
+    run(1500, [&] {
+        for (std::size_t i = 0; i < 3; ++i) {
+            const art a = at(g.p, nth(element::reel1, static_cast<int>(i) + 1)).picture;
+            if (std::exchange(last[i], a) != a)
+                written[i] = g.p.now;
+            rolled[i] = rolled[i] || s.reels[i].now == reel_motion::phase::rolls;
+            if (stop_of(a) != 0 && g.p.now - written[i] >= 120) {
+                EXPECT_EQ(s.reels[i].now, reel_motion::phase::rests);
+                EXPECT_EQ(s.reels[i].at, stop_of(a) - 1);
+            }
+        }
+    });
+    EXPECT_TRUE(rolled[0] && !rolled[1] && rolled[2]);
+    EXPECT_EQ(advance(s, g, g.p.now), -1) << "nothing moves, so no picture is wanted";
+}
+
+TEST_F(Show, TheBeltRunsForwardFromWhatWasWrittenAndNeverBehind) {
+    open_board("feature", 1);
+    run(2000);
+    g.b.featurerung = 2;
+    featurepress(g);
+    int furthest = 0, moves = 0;
+    run(6000, [&] {
+        if (g.b.beltphase != 1 || caption(g.p, element::feature_displayline) != g.b.beltwindow)
+            return;
+        const int now = g.b.beltstep * 6 + s.belt.columns;
+        EXPECT_GE(now, furthest);
+        moves += now > furthest;
+        furthest = now;
+    });
+    EXPECT_GT(moves, 100); // dot by dot, not letter by letter
+    ASSERT_TRUE(key(space));
+    run(9000);
+    EXPECT_EQ(s.belt.columns, 0);
+}
+
+// A lamp is told looks at random times; whatever it is told, the eye gets no fourth flash in a second.
+TEST_F(Show, HeldLampsNeverFlashTooFastAndEndAsTheyWereTold) {
+    set_reduced(s, g, true);
+    const element lamps[] = {element::numberfour, element::start, element::displayline, element::toplogo};
+    for (int round = 0; round < 60; ++round)
+        for (const element lamp : lamps) {
+            std::deque<std::int64_t> changes;
+            const auto seen = [&] {
+                const element_state& e = shown(s, g.p, lamp);
+                return std::tuple(e.picture, e.fore, e.text.empty());
+            };
+            auto before = seen();
+            const int pace = 20 + round * 8;
+            for (int change = 0; change < 25; ++change) {
+                const bool on = change % 2 == 0;
+                set_fore(g.p, lamp, on ? 0x00FFFF : 0);
+                set_picture(g.p, lamp,
+                            lamp == element::toplogo ? (on ? art::title2 : art::title)
+                            : on                     ? art::startpiclight
+                                                     : art::startpicdark);
+                set_caption(g.p, lamp, on ? "GET READY" : "");
+                g.p.now += pace + draw(g, pace);
+                look();
+                if (seen() == before)
+                    continue;
+                before = seen();
+                changes.push_back(g.p.now);
+                while (changes.front() <= g.p.now - 1000)
+                    changes.pop_front();
+                ASSERT_LE(changes.size(), 6U) << "pace " << pace;
+            }
+            g.p.now += 1500;
+            look();
+            EXPECT_EQ(shown(s, g.p, lamp).picture, at(g.p, lamp).picture);
+            EXPECT_EQ(shown(s, g.p, lamp).text, at(g.p, lamp).text);
+        }
+}
+
+TEST_F(Show, ReducedFlashingKeepsWordsReadableAndLeavesASlowLampAlone) {
+    set_reduced(s, g, true);
+    for (int i = 0; i < 40; ++i) { // ten a second: held at the words
+        set_caption(g.p, element::displayline, i % 2 == 0 ? "GET READY" : "");
+        g.p.now += 50;
+        look();
+        EXPECT_TRUE(i < 7 || shown(s, g.p, element::displayline).text == "GET READY");
+    }
+    g.p.now += 2000;
+    look();
+    for (int i = 0; i < 20; ++i) { // twice a second: as it is told
+        set_picture(g.p, element::start, i % 2 == 0 ? art::startpiclight : art::startpicdark);
+        g.p.now += 250;
+        look();
+        EXPECT_EQ(shown(s, g.p, element::start).picture, at(g.p, element::start).picture);
+    }
+}
+
+// Each state of the machine that waits for its player: what the hint says, and that the key does it.
+struct waiting_state {
+    const char* name;
+    void (*reach)(Show&);
+    std::string_view says;
+    int code; // the key that it names; 0: none
+    bool (*done)(const game&);
+};
+
+const waiting_state states[] = {
+    {"no offer", [](Show&) {}, "Space plays", space,
+     [](const game& g) { return is_running(g.p, timer::reelspin1) && g.m.credits == 19; }},
+    {"holds offered", [](Show& t) { t.g.m.holdsoffered = "yes"; }, "Hold lamps flash: 1 2 3 hold a reel", '3',
+     [](const game& g) { return g.m.reel3held == "yes"; }},
+    {"a reel held",
+     [](Show& t) {
+         t.g.m.holdsoffered = "yes";
+         t.key('1');
+     },
+     "C clears the holds", 'C', [](const game& g) { return g.m.reel1held == "no"; }},
+    {"dont hold any",
+     [](Show& t) { t.g.m.holdsoffered = t.g.m.linepromised = "yes", t.g.m.holdsbarred = "true"; },
+     "Hold nothing: Space spins free", space, [](const game& g) { return g.m.reel1held == "no"; }},
+    {"bad hold",
+     [](Show& t) {
+         t.g.m.holdsoffered = "yes";
+         t.g.m.holdsbarred = t.g.m.linepromised = "true";
+         t.key('1');
+     },
+     "C takes it back", 'C', [](const game& g) { return g.m.linepromised == "true"; }},
+    {"nudges in hand",
+     [](Show& t) {
+         t.g.m.nudges = 2;
+         start_timer(t.g.p, timer::nudgetimer);
+         t.run(130);
+     },
+     "1 2 3 nudge a reel", '2', [](const game& g) { return g.m.nudges == 1; }},
+    {"random nudges",
+     [](Show& t) {
+         enable(t.g.p, element::stopper);
+         start_timer(t.g.p, timer::pseudo_nudges);
+         t.run(100);
+     },
+     "Space takes it as your nudges", space, [](const game& g) { return is_running(g.p, timer::addnudges); }},
+    {"payout",
+     [](Show& t) {
+         t.g.m.win = 2;
+         start_timer(t.g.p, timer::wintobank);
+     },
+     "counted into the bank", 0, nullptr},
+    {"a bank without credits",
+     [](Show& t) {
+         t.g.m.credits = 0;
+         t.g.m.bank = 3;
+     },
+     "0 turns £1 of the bank into four plays", '0',
+     [](const game& g) { return is_running(g.p, timer::banktocredits); }},
+    {"attract mode with a dead start",
+     [](Show& t) {
+         t.g.m.credits = 0;
+         t.run(10100);
+     },
+     "No credits and no bank: Game, New", 0, nullptr},
+    {"the gamble", [](Show& t) { t.open_board("hilo", 1); }, "Tab and Enter: Higher or Lower", 0, nullptr},
+    {"continue or collect",
+     [](Show& t) {
+         t.open_board("feature", 1);
+         t.run(2000);
+     },
+     "Space rolls the die; Tab and Enter on Cash, Feature or Shots", space,
+     [](const game& g) { return is_running(g.p, timer::feature_spin_dice); }},
+};
+
+TEST_F(Show, HintsAnswerEachStateAndTheKeyTheyNameDoesIt) {
+    for (const waiting_state& state : states) {
+        s = {};
+        SetUp();
+        enable(g.p, element::start);
+        state.reach(*this);
+        EXPECT_NE(hint(g).find(state.says), std::string_view::npos) << state.name << ": " << hint(g);
+        if (state.code == 0)
+            continue;
+        EXPECT_TRUE(key(state.code)) << state.name;
+        EXPECT_TRUE(state.done(g)) << state.name;
+    }
+}
+
+// In long play by random keys a hint never names what is dead, and a machine that waits always has one.
+TEST_F(Show, HintsHoldInLongPlay) {
+    const auto live = [&](element e) { return is_enabled(g.p, e) && is_visible(g.p, e); };
+    const auto says = [&](std::string_view what) { return hint(g).find(what) != std::string_view::npos; };
+    constexpr element board_buttons[] = {element::feature_hibutton,   element::feature_lobutton,
+                                         element::feature_collect,    element::feature_exchangebutton,
+                                         element::feature_cashbutton, element::feature_shotbutton};
+    int silent = 0, visits = 0;
+    for (int step = 0; step < 6000; ++step) {
+        const bool board = is_loaded(g.p, screen::feature);
+        EXPECT_LE(hint(g).size(), 91U);
+        const bool space_acts = board
+                                    ? live(element::feature_startbutton) || live(element::feature_stopfeature)
+                                    : live(element::start) || live(element::stopper);
+        EXPECT_TRUE(!says("Space") || space_acts) << hint(g);
+        EXPECT_TRUE(!says("0 turns") || (g.m.bank > 0.1F && g.m.credits <= 0.1F));
+        silent = hint(g).empty() ? silent + 1 : 0;
+        ASSERT_LT(silent, 200) << "a minute without a word at step " << step;
+        constexpr int codes[] = {space, space, '1', '2', '3', 'C', '0'};
+        if (draw(g, 2) == 1)
+            key(codes[draw(g, 7) - 1]);
+        else if (board)
+            apply(g, {input::kind::press, screen::feature, board_buttons[draw(g, 6) - 1]});
+        if (g.m.credits <= 0.1F && g.m.bank <= 0.1F && says("Game, New"))
+            startnewgame(g);
+        settle(g);
+        deliver(g, g.p.now + 300);
+        visits += !board && is_loaded(g.p, screen::feature);
+    }
+    EXPECT_GT(g.m.moneyin, 150); // hundreds of plays
+    EXPECT_GT(visits, 10);
+}
+
+TEST_F(Show, NamesAreTheWordsThatAListenerNeeds) {
+    EXPECT_EQ(spoken_name(g, element::displayline), "Bank 0 pounds, 20 credits");
+    g.m.bank = 1.6F;
+    g.m.credits = 1;
+    figuresline(g);
+    EXPECT_EQ(spoken_name(g, element::displayline), "Bank 1 pound 60, 1 credit");
+    g.m.holdsoffered = "yes";
+    EXPECT_EQ(spoken_name(g, element::hold1), "Hold reel 1, offered");
+    key('1');
+    EXPECT_EQ(spoken_name(g, element::hold1), "Hold reel 1, held");
+    open_board("feature", 1);
+    EXPECT_EQ(spoken_name(g, nth(element::feature_square1, 3)), "Square 3: two cash, lit");
+}
+
+} // namespace
