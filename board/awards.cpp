@@ -88,7 +88,7 @@ void start_pickawin(game& g) {
     disable(p, start);
     if (m.awardwait >= 1 && m.awardwait <= 7) {
         line(g, "      * ON THE RUN *");
-        if (m.pickstopped == "yes" || m.pickspins == 0) {
+        if (m.pickstopped == flag::yes || m.pickspins == 0) {
             take_pick(g);
             stop_timer(p, timer::start_pickawin);
             m.awardwait = 1;
@@ -105,7 +105,7 @@ void take_pick(game& g) {
     enable(g.p, start);
     disable(g.p, stopper);
     start_timer(g.p, timer::wintobank);
-    g.m.pickstopped = "no";
+    g.m.pickstopped = flag::no;
 }
 
 // The first draw is always made; above 85 the lowest row needs none.
@@ -130,7 +130,7 @@ void pickspin(game& g) {
 
 void winspin(game& g) {
     disable(g.p, start);
-    g.m.holdsoffered = "false";
+    g.m.holdsoffered = truth::is_not;
     draw_row(g, g.m.awarddraw, reach_of(g, win_reach));
     start_spin(g);
 }

@@ -58,7 +58,7 @@ void end_winstreak(game& g) {
 }
 
 void end_pickawin(game& g) {
-    if (g.m.pickstopped != "yes" && g.m.pickspins != 0)
+    if (g.m.pickstopped != flag::yes && g.m.pickspins != 0)
         start_timer(g.p, timer::start_pickawin);
     else
         take_pick(g);
@@ -88,10 +88,10 @@ struct award_row {
     void (*end)(game&); // after the third reel
 };
 constexpr award_row awards[] = {
-    {"winstreak", run_rows, &machine::awarddraw, end_winstreak},
-    {"pickawin", run_rows, &machine::pickdraw, end_pickawin},
-    {"winspins", winspin_rows, &machine::awarddraw, end_winspins},
-    {"luckysevens", seven_rows, &machine::awarddraw, end_luckysevens},
+    {award::winstreak, run_rows, &machine::awarddraw, end_winstreak},
+    {award::pickawin, run_rows, &machine::pickdraw, end_pickawin},
+    {award::winspins, winspin_rows, &machine::awarddraw, end_winspins},
+    {award::luckysevens, seven_rows, &machine::awarddraw, end_luckysevens},
 };
 
 // The row that was drawn, or none where the table has not got it.

@@ -36,7 +36,7 @@ const lamp& lamp_of(element button) {
 // With a shot's prize on offer the stop button is a start button: it fires again.
 const lamp& flash_look(const game& g, const lamp& l) {
     static constexpr lamp fire_again = {feature_stopfeature, art::fstartpicdark, art::fstartpiclight};
-    const bool on_offer = g.m.award == "shots" && g.b.shotstate == "stop";
+    const bool on_offer = g.m.award == award::shots && g.b.shotstate == shooting::on_offer;
     return l.button == feature_stopfeature && on_offer ? fire_again : l;
 }
 
@@ -72,7 +72,7 @@ void feature_butflash(game& g) {
     const bool bright = phase == 1;
     for (std::size_t i = 0; i < flashing && phase != 0; ++i) {
         const lamp& l = flash_look(g, lamps[i]);
-        const bool held_back = l.button == feature_startbutton && g.m.award == "electricshock";
+        const bool held_back = l.button == feature_startbutton && g.m.award == award::electricshock;
         if (!bright)
             set_picture(g.p, l.button, l.dark);
         else if (is_enabled(g.p, l.button) && !held_back)

@@ -31,7 +31,7 @@ constexpr roll to_15_or_24[] = {{9, 6}, {10, 5}, {11, 4}, {12, 3}, {13, 2}, {14,
                                 {18, 6}, {19, 5}, {20, 4}, {21, 3}, {22, 2}, {23, 1}};
 // clang-format on
 
-bool guarded(const game& g) { return g.m.invincible == "yes"; }
+bool guarded(const game& g) { return g.m.invincible == flag::yes; }
 bool much_cash(const game& g) { return g.b.cashrung >= 5; }
 bool high_ladder(const game& g) { return g.b.cashrung >= 7 || g.b.featurerung >= 7 || g.b.shots >= 7; }
 bool always(const game&) { return true; }
@@ -49,16 +49,18 @@ constexpr check checks[] = {
 
 } // namespace
 
-bool call_wins(const board& b) { return b.hilochoice == "hi" ? b.dice > b.lastdice : b.dice < b.lastdice; }
+bool call_wins(const board& b) {
+    return b.hilochoice == choice::hi ? b.dice > b.lastdice : b.dice < b.lastdice;
+}
 
 // A guarded run refuses what loses, a machine that has paid much refuses what wins. From a 1 or a
 // 6 every draw beats the die, and nothing is refused.
 bool call_is_refused(const game& g) {
     const machine& m = g.m;
     const board& b = g.b;
-    if (m.invincible == "yes")
+    if (m.invincible == flag::yes)
         return !call_wins(b);
-    if (m.invincible != "no" || b.lastdice < 2 || b.lastdice > 5 || !call_wins(b))
+    if (m.invincible != flag::no || b.lastdice < 2 || b.lastdice > 5 || !call_wins(b))
         return false;
     return (m.pcent > 90 && m.win >= 2) || (m.pcent > 75 && (m.win == 5 || m.win == 8));
 }

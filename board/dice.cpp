@@ -13,7 +13,7 @@ constexpr int last_try = 30; // the counted draw that stands whatever it is
 
 void draw_die(game& g) {
     board& b = g.b;
-    const bool hilo = g.m.featuremode == "hilo";
+    const bool hilo = g.m.featuremode == mode::hilo;
     for (;;) {
         set(b.dice, draw(g, 6));
         if (hilo && b.dice == b.lastdice)
@@ -69,7 +69,7 @@ void feature_spin_dice(game& g) {
 
 void rolldice(game& g) {
     draw_die(g);
-    if (g.m.featuremode != "hilo") {
+    if (g.m.featuremode != mode::hilo) {
         begin_walk(g);
         return;
     }

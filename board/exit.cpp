@@ -71,7 +71,7 @@ void collectpress(game& g) {
         return;
     panel& p = g.p;
     disable(p, feature_exchangebutton);
-    if (g.m.featuremode == "feature") {
+    if (g.m.featuremode == mode::feature) {
         if (g.m.win == jackpot_win) {
             jackpotrepeater(g);
             return;

@@ -12,7 +12,7 @@ using enum element;
 constexpr element closed_by_call[] = {feature_featurebutton, feature_cashbutton, feature_shotbutton,
                                       feature_exchangebutton, feature_collect};
 
-void call(game& g, word choice) {
+void call(game& g, word called) {
     panel& p = g.p;
     stop_timer(p, timer::feature_hitimer);
     stop_timer(p, timer::feature_win_timer);
@@ -21,8 +21,8 @@ void call(game& g, word choice) {
     stop_timer(p, timer::feature_gambletimer);
     shut(g, feature_hibutton);
     shut(g, feature_lobutton);
-    show_lit(g, choice == "hi" ? feature_hibutton : feature_lobutton);
-    g.b.hilochoice = choice;
+    show_lit(g, called == choice::hi ? feature_hibutton : feature_lobutton);
+    g.b.hilochoice = called;
     board_line(g, "        * SPINNING *");
     g.b.lastdice = g.b.dice;
     play(g, sound::reelspin);
@@ -76,8 +76,8 @@ constexpr following without_exchange[] = {
 
 } // namespace
 
-void hipress(game& g) { call(g, "hi"); }
-void lopress(game& g) { call(g, "lo"); }
+void hipress(game& g) { call(g, choice::hi); }
+void lopress(game& g) { call(g, choice::lo); }
 
 void judgegamble(game& g) {
     if (call_wins(g.b))
@@ -104,7 +104,7 @@ void feature_hitimer(game& g) {
 // The next rung flashes against the lose lamp.
 void feature_win_timer(game& g) {
     const int rung = rung_of(g.m.win);
-    if (g.m.featuremode != "hilo" || rung == 0)
+    if (g.m.featuremode != mode::hilo || rung == 0)
         return;
     const bool lights = cash_is_dark(g, rung + 1);
     if (lights)
@@ -119,7 +119,7 @@ void feature_gambletimer(game& g) {
         board_line(g, "      JACKPOT REPEATER");
         return;
     }
-    if (g.m.featuremode != "hilo")
+    if (g.m.featuremode != mode::hilo)
         return;
     const auto& words = is_enabled(g.p, feature_exchangebutton) ? with_exchange : without_exchange;
     for (const following& f : words)

@@ -10,18 +10,18 @@ namespace {
 constexpr int last_ready_step = 22;
 
 // What the machine is told at the hand-over, beside `win`.
-void tell_luckysevens(game& g) { g.m.award = "luckysevens"; }
+void tell_luckysevens(game& g) { g.m.award = award::luckysevens; }
 void tell_pickawin(game& g) {
-    g.m.pickstopped = "no";
-    g.m.award = "pickawin";
+    g.m.pickstopped = flag::no;
+    g.m.award = award::pickawin;
     g.m.pickspins = 8;
 }
 void tell_winspins(game& g) {
     g.m.winspinsleft = 3;
-    g.m.award = "winspins";
+    g.m.award = award::winspins;
     disable(g.p, element::start);
 }
-void tell_winstreak(game& g) { g.m.award = "winstreak"; }
+void tell_winstreak(game& g) { g.m.award = award::winstreak; }
 void tell_nothing(game&) {}
 
 struct handover_row {

@@ -22,8 +22,8 @@ constexpr std::string_view dollars[] = {"$1.00", "$1.60", "$2.00", "$2.40", "$3.
 
 void write_captions(game& g) {
     set_title(g.p, screen::feature, short_text("Hoard Hustle v").add(g.m.version));
-    const bool gbp = g.m.currency == "gbp";
-    if (!gbp && g.m.currency != "usd")
+    const bool gbp = g.m.currency == setting::gbp;
+    if (!gbp && g.m.currency != setting::usd)
         return;
     for (int rung = 1; rung <= 9; ++rung)
         set_caption(g.p, nth(feature_m1, rung), gbp ? pounds[rung - 1] : dollars[rung - 1]);
@@ -70,10 +70,10 @@ void first_die(game& g) {
 void draw_guard(game& g) {
     machine& m = g.m;
     const bool drawn = draw(g, 2) == 2;
-    m.invincible = "no";
+    m.invincible = flag::no;
     if (!drawn || !(m.pcent < 75) || m.win == jackpot_win || !(m.streakbank > 20))
         return;
-    m.invincible = "yes";
+    m.invincible = flag::yes;
     set_picture(g.p, feature_toplogo, art::title);
     start_timer(g.p, timer::feature_invincibletimer);
 }
@@ -81,7 +81,7 @@ void draw_guard(game& g) {
 void open_gamble(game& g) {
     if (g.m.win != jackpot_win)
         play(g, sound::hilo);
-    g.m.featuremode = "hilo";
+    g.m.featuremode = mode::hilo;
     board_line(g, "           HIGHER");
     start_timer(g.p, timer::feature_gambletimer);
 }
@@ -97,7 +97,7 @@ void feature_load(game& g) {
     first_rungs(g);
     first_die(g);
     g.b.exitstep = 0;
-    m.fastcashway = "up";
+    m.fastcashway = way::up;
     stop_timer(p, timer::numbers2);
     stop_timer(p, timer::feature_start);
     stop_timer(p, timer::feature_flashing_lights);
@@ -108,9 +108,9 @@ void feature_load(game& g) {
     if (m.win == jackpot_win)
         jackpotrepeater(g);
     draw_guard(g);
-    if (m.invincible == "no" && m.win < jackpot_win)
+    if (m.invincible == flag::no && m.win < jackpot_win)
         play(g, sound::feature);
-    if (m.featuremode != "feature") {
+    if (m.featuremode != mode::feature) {
         open_gamble(g);
         return;
     }
@@ -126,7 +126,7 @@ void enterfeature(game& g) {
     start_timer(p, timer::feature_exchange_effect);
     stop_timer(p, timer::feature_win_timer);
     stop_timer(p, timer::feature_hitimer);
-    g.m.featuremode = "feature";
+    g.m.featuremode = mode::feature;
     show(p, feature_startbutton);
     board_line(g, "   * ENTERING FEATURE *");
     shut(g, feature_lobutton);

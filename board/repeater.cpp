@@ -64,7 +64,7 @@ void jackpotrepeater(game& g) {
     for (const element button : closed)
         shut(g, button);
     stop_timer(p, timer::feature_butflash);
-    g.m.award = "jackpot";
+    g.m.award = award::jackpot;
     board_line(g, "    * JACKPOT REPEATER *");
     play(g, sound::jackpot);
     midi(g, "stop mid1");

@@ -57,19 +57,19 @@ void game_over(game& g, int) {
         return;
     }
     if (g.b.boardpos == 24)
-        m.award = "nothing";
+        m.award = award::nothing;
     start_timer(g.p, timer::feature_savedbyextra);
 }
 
 void skill_stop(game& g, int) {
     play(g, sound::skillstop);
-    g.m.award = "skillstop";
+    g.m.award = award::skillstop;
     start_timer(g.p, timer::feature_start_skillstop);
 }
 
 void random_stop(game& g, int) {
     play(g, sound::skillstop);
-    g.m.award = "randomstop";
+    g.m.award = award::randomstop;
     start_timer(g.p, timer::feature_start_randomstop);
 }
 
@@ -116,14 +116,14 @@ void landsquare(game& g) {
 }
 
 void landed(game& g) {
-    if (g.m.award == "electricshock" || is_running(g.p, timer::feature_cashadd) ||
+    if (g.m.award == award::electricshock || is_running(g.p, timer::feature_cashadd) ||
         is_running(g.p, timer::feature_featureadd))
         return;
     feature_enablebuttons(g);
 }
 
 void mysterysquare(game& g) {
-    g.m.award = "electricshock";
+    g.m.award = award::electricshock;
     board_line(g, "      *** MYSTERY ***");
     play(g, sound::question);
     g.b.shockpos = 0;

@@ -15,12 +15,12 @@ struct prize_row {
 // Rungs 1 to 9 of the features ladder; rung 10 is the jackpot.
 constexpr prize_row prizes[] = {
     {timer::feature_start_sevenspinner},
-    {timer::feature_moneybelttimer, "moneybelt"},
+    {timer::feature_moneybelttimer, award::moneybelt},
     {timer::feature_start_fastcash},
     {timer::feature_start_reelskill},
     {timer::feature_start_pickawin},
     {timer::feature_start_winspins},
-    {timer::feature_moneybelttimer, "supermoneybelt"},
+    {timer::feature_moneybelttimer, award::supermoneybelt},
     {timer::feature_start_winstreak},
     {timer::feature_start_letsspin},
 };
@@ -89,8 +89,8 @@ void shotpress(game& g) {
 
 void takeshots(game& g) {
     panel& p = g.p;
-    g.m.award = "shots";
-    g.b.shotstate = "";
+    g.m.award = award::shots;
+    g.b.shotstate = shooting::idle;
     disable(p, feature_stopfeature);
     clearcashladder(g);
     hide(p, feature_startbutton);

@@ -51,7 +51,7 @@ void end_payout(game& g) {
     figuresline(g);
     if (m.credits > 0.1f)
         enable(g.p, start);
-    if (m.award == "winstreak" || m.award == "jackpot") {
+    if (m.award == award::winstreak || m.award == award::jackpot) {
         start_timer(g.p, timer::start_repeatchance);
         disable(g.p, start);
     }
@@ -142,7 +142,7 @@ void startnewgame(game& g) {
     stop_timer(p, timer::scrolltimer);
     stop_timer(p, timer::flashtimer);
     figuresline(g);
-    m.linepromised = "false";
+    m.linepromised = truth::is_not;
     darkbuttons(g);
     traildark(g);
     set_picture(p, nudgenow, art::nudgenowpicdark);
@@ -152,7 +152,7 @@ void startnewgame(game& g) {
     stop_timer(p, timer::attracthold);
     set_picture(p, toplogo, art::title);
     hide(p, trailheld);
-    m.reel1held = m.reel2held = m.reel3held = "no";
+    m.reel1held = m.reel2held = m.reel3held = flag::no;
     offerholds(g);
     enable(p, start);
     unload_screen(g, screen::feature); // an open board closes with nothing

@@ -94,10 +94,10 @@ void first_game(machine& m) {
     m.reel2pos = 13;
     m.reel3pos = 11;
     m.reelspeed = 1;
-    m.soundstate = "on";
-    m.flashlogo = "yes";
+    m.soundstate = setting::on;
+    m.flashlogo = flag::yes;
     m.ledcolour = 1;
-    m.currency = "gbp";
+    m.currency = setting::gbp;
 }
 
 void first_table(machine& m) {

@@ -34,11 +34,11 @@ void count_sequence(game& g, int which) {
 // The promise is lost, unless the hold is cancelled.
 void bad_hold(game& g, int which) {
     machine& m = g.m;
-    reel(g, which).held = "yes";
+    reel(g, which).held = flag::yes;
     set_picture(g.p, reel(g, which).button, art::holdpiclight);
-    m.holdsbarred = "False"; // neither a test for "true" nor one for "false" passes
-    m.badholdmade = "true";
-    m.linepromised = "false";
+    m.holdsbarred = truth::spoilt; // neither a test for "true" nor one for "false" passes
+    m.badholdmade = truth::is;
+    m.linepromised = truth::is_not;
     line(g, bad_hold_text);
     play(g, sound::badhold);
 }
@@ -46,8 +46,8 @@ void bad_hold(game& g, int which) {
 void holdpress(game& g, int which) {
     constexpr void (*nudge[])(game&) = {nudgereel1, nudgereel2, nudgereel3};
     machine& m = g.m;
-    const bool offered = m.holdsoffered == "yes";
-    if (offered && (m.holdsbarred == "true" || m.badholdmade == "true")) {
+    const bool offered = m.holdsoffered == flag::yes;
+    if (offered && (m.holdsbarred == truth::is || m.badholdmade == truth::is)) {
         bad_hold(g, which);
         return;
     }
@@ -59,9 +59,9 @@ void holdpress(game& g, int which) {
         reelskill_stop1(g);
     } else if (which == 3 && is_running(g.p, timer::reelskill2)) {
         reelskill_stop3(g);
-    } else if (offered && reel(g, which).held != "yes") {
+    } else if (offered && reel(g, which).held != flag::yes) {
         play(g, nth(sound::hold1, which));
-        reel(g, which).held = "yes";
+        reel(g, which).held = flag::yes;
         set_picture(g.p, reel(g, which).button, art::holdpiclight);
         pairhold(g);
     }
@@ -70,9 +70,9 @@ void holdpress(game& g, int which) {
 
 // Exactly two reels are held, and they form a pair.
 bool pair_is_held(const machine& m) {
-    const bool one = m.reel1held == "yes";
-    const bool two = m.reel2held == "yes";
-    const bool three = m.reel3held == "yes";
+    const bool one = m.reel1held == flag::yes;
+    const bool two = m.reel2held == flag::yes;
+    const bool three = m.reel3held == flag::yes;
     return (one && two && !three && forms_pair(m.reel1sym, m.reel2sym)) ||
            (one && !two && three && forms_pair(m.reel1sym, m.reel3sym)) ||
            (!one && two && three && forms_pair(m.reel2sym, m.reel3sym));
@@ -86,21 +86,21 @@ void holdpress3(game& g) { holdpress(g, 3); }
 
 void pairhold(game& g) {
     machine& m = g.m;
-    if (m.holdsbarred == "true" || m.pairholds == 3) { // a third reel throws the promise away
+    if (m.holdsbarred == truth::is || m.pairholds == 3) { // a third reel throws the promise away
         line(g, bad_hold_text);
         play(g, sound::badhold);
-        m.linepromised = "false";
+        m.linepromised = truth::is_not;
         return;
     }
     if (pair_is_held(m))
         ++m.pairholds;
     if (m.pairholds != 3)
         return;
-    m.linepromised = "true";
+    m.linepromised = truth::is;
     start_timer(g.p, timer::letemspin);
-    m.holdsoffered = "yes";
+    m.holdsoffered = flag::yes;
     play(g, sound::okeydoke);
-    m.holdsbarred = "false";
+    m.holdsbarred = truth::is_not;
 }
 
 void cancelpress(game& g) {
@@ -109,22 +109,22 @@ void cancelpress(game& g) {
         set_interval(g.p, timer::trailskill, interval(g.p, timer::trailskill) + 30);
         return;
     }
-    if (m.reel1held != "yes" && m.reel2held != "yes" && m.reel3held != "yes")
+    if (m.reel1held != flag::yes && m.reel2held != flag::yes && m.reel3held != flag::yes)
         return;
     set_picture(g.p, element::cancelbutton, art::cancelpicdark);
     play(g, sound::cancel);
     if (m.pairholds > 0) {
         --m.pairholds;
-        m.linepromised = "false";
+        m.linepromised = truth::is_not;
     }
-    if (m.badholdmade == "true") { // a bad hold taken back: the promise returns
-        m.holdsbarred = "true";
-        m.linepromised = "true";
-        m.badholdmade = "false";
+    if (m.badholdmade == truth::is) { // a bad hold taken back: the promise returns
+        m.holdsbarred = truth::is;
+        m.linepromised = truth::is;
+        m.badholdmade = truth::is_not;
         start_timer(g.p, timer::dontholdany);
         play(g, sound::okeydoke);
     }
-    m.reel1held = m.reel2held = m.reel3held = "no";
+    m.reel1held = m.reel2held = m.reel3held = flag::no;
 }
 
 } // namespace hustle

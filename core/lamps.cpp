@@ -38,10 +38,10 @@ void hold_lamps(game& g) {
     const int step = g.m.lampstep;
     for (int which = 1; which <= 3; ++which) {
         const reel_fields r = reel(g, which);
-        const bool pair_flash = r.held != "yes" && matches_another(g.m, which);
+        const bool pair_flash = r.held != flag::yes && matches_another(g.m, which);
         if (step == 1 || (pair_flash && (step == 3 || step == 5)))
             set_picture(g.p, r.button, art::holdpiclight);
-        else if ((step == 4 && r.held != "yes") || (pair_flash && (step == 2 || step == 6)))
+        else if ((step == 4 && r.held != flag::yes) || (pair_flash && (step == 2 || step == 6)))
             set_picture(g.p, r.button, art::holdpicdark);
     }
 }
@@ -58,9 +58,10 @@ void stopper_lamp(game& g) {
 void butflash(game& g) {
     machine& m = g.m;
     start_lamp(g);
-    if (m.holdsoffered == "yes" && m.nudges == 0)
+    if (m.holdsoffered == flag::yes && m.nudges == 0)
         hold_lamps(g);
-    if (m.holdsoffered == "yes" && (m.reel1held == "yes" || m.reel2held == "yes" || m.reel3held == "yes"))
+    if (m.holdsoffered == flag::yes &&
+        (m.reel1held == flag::yes || m.reel2held == flag::yes || m.reel3held == flag::yes))
         slow_flash(g, cancelbutton, art::cancelpicdark, art::cancelpiclight);
     stopper_lamp(g);
     if (is_running(g.p, timer::reelskill))

@@ -33,12 +33,12 @@ constexpr number_option numbers[] = {
     {greendisp,  &machine::ledcolour, 6},
 };
 constexpr word_option words[] = {
-    {ds,       &machine::currency,   "usd", ""},
-    {ps,       &machine::currency,   "gbp", ""},
-    {soundon,  &machine::soundstate, "on",  ""},
-    {soundoff, &machine::soundstate, "off", "on"},
-    {flon,     &machine::flashlogo,  "yes", ""},
-    {floff,    &machine::flashlogo,  "no",  "yes"},
+    {ds,       &machine::currency,   setting::usd, ""},
+    {ps,       &machine::currency,   setting::gbp, ""},
+    {soundon,  &machine::soundstate, setting::on, ""},
+    {soundoff, &machine::soundstate, setting::off, setting::on},
+    {flon,     &machine::flashlogo,  flag::yes, ""},
+    {floff,    &machine::flashlogo,  flag::no, flag::yes},
 };
 // clang-format on
 

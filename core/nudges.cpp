@@ -33,7 +33,7 @@ void hold_buttons(game& g, bool on) {
 }
 
 bool nudges_admitted(const machine& m) {
-    return m.holdsoffered == "no" && m.win == 0 && m.nudgedraw == 3 && m.trailvalue != 4 &&
+    return m.holdsoffered == flag::no && m.win == 0 && m.nudgedraw == 3 && m.trailvalue != 4 &&
            m.trailvalue < 9 && m.credits > 0.25f;
 }
 
@@ -85,7 +85,7 @@ constexpr timer trail_events[] = {timer::trailclimb,  timer::selector,     timer
 bool figure_tick(game& g) {
     const bool busy = std::any_of(std::begin(trail_events), std::end(trail_events),
                                   [&](timer t) { return is_running(g.p, t); });
-    g.m.trailbusy = busy ? "yes" : "no";
+    g.m.trailbusy = busy ? flag::yes : flag::no;
     disable(g.p, start);
     return busy;
 }
@@ -133,7 +133,7 @@ void end_nudges(game& g) {
     set_picture(p, nudgenow, art::nudgenowpicdark);
     hold_lamps(g, art::holdpicdark);
     stop_timer(p, timer::nudgetimer);
-    m.holdsoffered = "no";
+    m.holdsoffered = flag::no;
     play(g, sound::none);
     if (m.win == 0 && m.trailvalue != 4)
         offerdontholdany(g);
@@ -201,7 +201,7 @@ void addnudges(game& g) {
 }
 
 void nudgetimer(game& g) {
-    if (g.m.trailbusy == "no")
+    if (g.m.trailbusy == flag::no)
         flash_nudges(g);
     else
         hold_lamps(g, art::nudgepicdark);

@@ -29,13 +29,13 @@ constexpr timer busy_timers[] = {
 };
 
 int held_reels(const machine& m) {
-    return (m.reel1held == "yes") + (m.reel2held == "yes") + (m.reel3held == "yes");
+    return (m.reel1held == flag::yes) + (m.reel2held == flag::yes) + (m.reel3held == flag::yes);
 }
 
 // The line is promised: no stake, and the reels go to it after a short tune of words.
 void free_respin(game& g) {
     machine& m = g.m;
-    m.holdsoffered = "no";
+    m.holdsoffered = flag::no;
     for (const timer text : {timer::letemspin, timer::dontholdany}) {
         stop_timer(g.p, text);
         set_interval(g.p, text, 10);
@@ -50,10 +50,10 @@ void free_respin(game& g) {
 // The stake of 25p: 4p, 16p and 5p into the banks, and the coin into the hopper or the cash box.
 void paid_play(game& g) {
     machine& m = g.m;
-    m.badholdmade = "false";
-    m.holdsbarred = "false";
+    m.badholdmade = truth::is_not;
+    m.holdsbarred = truth::is_not;
     play(g, sound::start);
-    m.linepromised = "false";
+    m.linepromised = truth::is_not;
     add(m.credits, -1);
     add(m.streakbank, 0.04);
     add(m.winbank, 0.16);
@@ -93,7 +93,7 @@ void startpress(game& g) {
         m.pairholds = 0;
     if (!(m.credits > 0.1f))
         return;
-    if (m.linepromised == "true")
+    if (m.linepromised == truth::is)
         free_respin(g);
     else
         paid_play(g);
@@ -102,31 +102,31 @@ void startpress(game& g) {
 void resetplay(game& g) {
     machine& m = g.m;
     m.win = 0;
-    m.trailbusy = "no";
-    m.award = "";
-    m.featuremode = "hilo";
-    m.holdsoffered = "no";
+    m.trailbusy = flag::no;
+    m.award = award::none;
+    m.featuremode = mode::hilo;
+    m.holdsoffered = flag::no;
     m.streaktotal = 0;
     if (!is_visible(g.p, trailheld)) {
         m.trailvalue = 0;
         m.trailtarget = 0;
     }
     for (int which = 1; which <= 3; ++which)
-        if (reel(g, which).held != "yes")
+        if (reel(g, which).held != flag::yes)
             reel(g, which).num = 0;
 }
 
 void darkbuttons(game& g) {
     set_picture(g.p, cancelbutton, art::cancelpicdark);
     for (int which = 1; which <= 3; ++which)
-        if (reel(g, which).held != "yes")
+        if (reel(g, which).held != flag::yes)
             set_picture(g.p, reel(g, which).button, art::holdpicdark);
 }
 
 void clearholds(game& g) {
     machine& m = g.m;
-    m.reel1held = m.reel2held = m.reel3held = "no";
-    m.holdsoffered = "no";
+    m.reel1held = m.reel2held = m.reel3held = flag::no;
+    m.holdsoffered = flag::no;
     for (const element lamp : {hold1, hold2, hold3})
         set_picture(g.p, lamp, art::holdpicdark);
 }

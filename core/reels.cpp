@@ -70,9 +70,9 @@ void run_over(game& g) {
 
 // A reel of the play has stopped by its draw: the next free one starts, or the run is over.
 void next_reel(game& g, int stopped) {
-    if (stopped == 1 && g.m.reel2held == "no")
+    if (stopped == 1 && g.m.reel2held == flag::no)
         start_timer(g.p, timer::reelspin2);
-    else if (stopped <= 2 && g.m.reel3held == "no")
+    else if (stopped <= 2 && g.m.reel3held == flag::no)
         start_timer(g.p, timer::reelspin3);
     else
         run_over(g);
@@ -96,12 +96,12 @@ void stop_reel(game& g, int which) {
     stop_timer(g.p, spin_timers[which - 1]);
     play(g, sound::reelstop);
     m.spinstep = 1;
-    if (m.linepromised == "false") {
+    if (m.linepromised == truth::is_not) {
         draw_step(g, which);
         return;
     }
-    if (m.holdsbarred == "false")
-        m.linepromised = "false";
+    if (m.holdsbarred == truth::is_not)
+        m.linepromised = truth::is_not;
     forced_step(g, which);
 }
 
@@ -157,37 +157,37 @@ void show_spin_frames(game& g, int which, int step) {
     if (step < 1 || step > 8)
         return;
     for (int r = which; r <= 3; ++r)
-        if (reel(g, r).held != "yes")
+        if (reel(g, r).held != flag::yes)
             set_picture(g.p, reel(g, r).picture, nth(art::effect1, frames[which - 1][r - 1][step - 1]));
 }
 
 // A pair held on reels 2 and 3 never wins by reel 1's draw.
 void drawreel1(game& g) {
     machine& m = g.m;
-    if (m.reel1held != "no")
+    if (m.reel1held != flag::no)
         return;
     do {
         draw_stop(g, 1);
-    } while (m.reel2held == "yes" && m.reel3held == "yes" && all_alike(m));
+    } while (m.reel2held == flag::yes && m.reel3held == flag::yes && all_alike(m));
 }
 
 void drawreel2(game& g) {
-    if (g.m.reel2held == "no")
+    if (g.m.reel2held == flag::no)
         draw_stop(g, 2);
 }
 
 // No free reel 3 falls into three of a kind, unless the pair has been held three plays running.
 void drawreel3(game& g) {
     machine& m = g.m;
-    if (m.reel3held != "no")
+    if (m.reel3held != flag::no)
         return;
     do {
         draw_stop(g, 3);
-    } while (all_alike(m) && (m.pairholds != 3 || (m.reel1held == "no" && m.reel2held == "no")));
+    } while (all_alike(m) && (m.pairholds != 3 || (m.reel1held == flag::no && m.reel2held == flag::no)));
 }
 
 void reelspin1(game& g) {
-    if (g.m.reel1held == "no") {
+    if (g.m.reel1held == flag::no) {
         spin(g, 1);
         return;
     }

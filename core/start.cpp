@@ -70,15 +70,15 @@ void main_load(game& g) {
     for (const look_row& row : looks_at_load)
         set_picture(p, row.what, row.look);
     set_title(p, screen::main, short_text("Hoard Hustle v").add(m.version));
-    p.dollars = m.currency == "usd";
+    p.dollars = m.currency == setting::usd;
     tickoptions(g);
     if (const colour lit = led_colour(m.ledcolour); lit != 0)
         set_activecolor(p, displayline, lit);
     refresh_pcent_guarded(m);
-    m.holdsbarred = "false";
+    m.holdsbarred = truth::is_not;
     m.credits = 20;
     m.pausesecs = 1;
-    m.reel1held = m.reel2held = m.reel3held = "no";
+    m.reel1held = m.reel2held = m.reel3held = flag::no;
     for (int which = 1; which <= 3; ++which)
         show_saved_reel(g, which);
     figuresline(g);

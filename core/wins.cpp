@@ -61,7 +61,7 @@ void checkline(game& g) {
     if (m.win < 1)
         return;
     m.pairholds = 0;
-    m.featuremode = "hilo";
+    m.featuremode = mode::hilo;
     start_timer(g.p, timer::feature_start);
 }
 
@@ -71,12 +71,12 @@ void offerholds(game& g) {
         return;
     const int r = draw(g, 6);
     if (r <= (m.pcent > 90 ? 1 : 3))
-        m.holdsoffered = "yes";
+        m.holdsoffered = flag::yes;
     // A pair that the player has begun to hold is kept going.
     if ((m.pairholds == 1 || m.pairholds == 2) && any_two_show(m, "pound"))
-        m.holdsoffered = "yes";
+        m.holdsoffered = flag::yes;
     if (m.pairholds == 1 && (any_two_show(m, "cherry") || any_two_show(m, "melon")))
-        m.holdsoffered = "yes";
+        m.holdsoffered = flag::yes;
 }
 
 void offerdontholdany(game& g) {
@@ -88,33 +88,33 @@ void offerdontholdany(game& g) {
     const bool high = m.pcent >= 85.1f && m.pcent <= 9999;
     if (low || high) { // between the bands a pair is promised with no draw deciding
         const bool offered = r == 1 || (low && r == 2);
-        m.holdsoffered = offered ? "yes" : "no";
+        m.holdsoffered = offered ? flag::yes : flag::no;
         if (!offered)
             return;
     }
     if (!any_pair(m))
         return;
-    m.holdsbarred = "true";
+    m.holdsbarred = truth::is;
     m.nudges = 0;
-    m.holdsoffered = "yes";
+    m.holdsoffered = flag::yes;
     start_timer(g.p, timer::dontholdany);
     play(g, sound::okeydoke);
-    m.linepromised = "true";
+    m.linepromised = truth::is;
 }
 
 void spinforcedline(game& g) {
     machine& m = g.m;
-    const bool all_spin = m.holdsbarred == "true";
+    const bool all_spin = m.holdsbarred == truth::is;
     if (all_spin)
-        m.reel1held = m.reel2held = m.reel3held = "no";
+        m.reel1held = m.reel2held = m.reel3held = flag::no;
     const auto spin_from = [&](timer first) { start_timer(g.p, all_spin ? timer::reelspin1 : first); };
-    if (m.reel1held == "no" && forms_pair(m.reel2sym, m.reel3sym)) {
+    if (m.reel1held == flag::no && forms_pair(m.reel2sym, m.reel3sym)) {
         m.reel1sym = m.reel2sym;
         spin_from(timer::reelspin1);
-    } else if (m.reel2held == "no" && forms_pair(m.reel1sym, m.reel3sym)) {
+    } else if (m.reel2held == flag::no && forms_pair(m.reel1sym, m.reel3sym)) {
         m.reel2sym = m.reel1sym;
         spin_from(timer::reelspin2);
-    } else if (m.reel3held == "no" && forms_pair(m.reel1sym, m.reel2sym)) {
+    } else if (m.reel3held == flag::no && forms_pair(m.reel1sym, m.reel2sym)) {
         m.reel3sym = m.reel1sym;
         spin_from(timer::reelspin3);
     } else if (all_spin) {
@@ -124,7 +124,7 @@ void spinforcedline(game& g) {
 
 void forcedstep1(game& g) {
     showforced1(g);
-    if (g.m.holdsbarred == "true")
+    if (g.m.holdsbarred == truth::is)
         start_timer(g.p, timer::reelspin2);
     else
         checkline(g);
@@ -132,7 +132,7 @@ void forcedstep1(game& g) {
 
 void forcedstep2(game& g) {
     showforced2(g);
-    if (g.m.holdsbarred == "true")
+    if (g.m.holdsbarred == truth::is)
         start_timer(g.p, timer::reelspin3);
     else
         checkline(g);
@@ -140,7 +140,7 @@ void forcedstep2(game& g) {
 
 void forcedstep3(game& g) {
     showforced3(g);
-    g.m.holdsbarred = "false";
+    g.m.holdsbarred = truth::is_not;
     checkline(g);
 }
 

@@ -33,7 +33,7 @@ void reelguide_load(game& g) {
 }
 
 void wintable_load(game& g) {
-    if (g.m.currency == "usd")
+    if (g.m.currency == setting::usd)
         set_picture(g.p, wintable_Picture1, art::wins_us);
 }
 

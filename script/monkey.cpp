@@ -71,12 +71,12 @@ struct monkey {
     // Now and then the machine is put where it may well stand.
     void shuffle() {
         const machine& m = on.g.m;
-        if (m.holdsoffered == "yes" && m.linepromised == "false" && m.badholdmade == "false" &&
-            choose(20) == 0)
+        if (m.holdsoffered == flag::yes && m.linepromised == truth::is_not &&
+            m.badholdmade == truth::is_not && choose(20) == 0)
             make(deed::pairholds, 2);
         if (choose(400) == 0)
             make(deed::moneyout, static_cast<int>(m.moneyin) * (60 + choose(50)) / 100);
-        if (m.featuremode != "feature" || !is_loaded(on.g.p, screen::feature))
+        if (m.featuremode != mode::feature || !is_loaded(on.g.p, screen::feature))
             return;
         if (choose(20) == 0)
             make(deed::featurerung, 1 + choose(9));

@@ -47,16 +47,16 @@ constexpr timer reels[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3,
                            timer::spinreel2, timer::spinreel3, timer::start_spin_in};
 
 bool any_held(const machine& m) {
-    return m.reel1held == "yes" || m.reel2held == "yes" || m.reel3held == "yes";
+    return m.reel1held == flag::yes || m.reel2held == flag::yes || m.reel3held == flag::yes;
 }
 
 std::string_view offer_hint(const game& g) {
     const machine& m = g.m;
-    if (m.badholdmade == "true")
+    if (m.badholdmade == truth::is)
         return "A hold breaks the promise of a win: C takes it back; Space plays";
-    if (m.holdsbarred == "true")
+    if (m.holdsbarred == truth::is)
         return "Hold nothing: Space spins free, and the reels make a win";
-    if (m.linepromised == "true")
+    if (m.linepromised == truth::is)
         return "Hold nothing more: Space spins free, and the reels make a win";
     if (any_held(m))
         return "1 2 3 hold a reel, C clears the holds; Space plays";
@@ -92,7 +92,7 @@ std::string_view main_hint(const game& g) {
         return empty_hint(g);
     if (!live(g, start))
         return {};
-    return m.holdsoffered == "yes" ? offer_hint(g) : "Space plays";
+    return m.holdsoffered == flag::yes ? offer_hint(g) : "Space plays";
 }
 
 constexpr stop_hint board_stops[] = {
@@ -108,7 +108,7 @@ constexpr stop_hint board_stops[] = {
 };
 
 std::string_view board_stop_hint(const game& g) {
-    if (g.m.award == "shots" && g.b.shotstate == "stop")
+    if (g.m.award == award::shots && g.b.shotstate == shooting::on_offer)
         return "Space shoots again; Tab and Enter on Collect takes the prize";
     for (const stop_hint& s : board_stops)
         if (runs(g, s.running))
@@ -129,7 +129,7 @@ std::string_view gamble_hint(const game& g) {
 std::string_view board_hint(const game& g) {
     if (live(g, feature_stopfeature))
         return board_stop_hint(g);
-    if (g.m.featuremode == "hilo" && !board_chain_runs(g))
+    if (g.m.featuremode == mode::hilo && !board_chain_runs(g))
         return gamble_hint(g);
     if (live(g, feature_startbutton))
         return live(g, feature_cashbutton)
@@ -150,7 +150,7 @@ std::string_view hint(const game& g) {
 }
 
 std::string bank_label(const game& g) {
-    std::string text = g.m.currency == "usd" ? "Bank $" : "Bank £";
+    std::string text = g.m.currency == setting::usd ? "Bank $" : "Bank £";
     return text += std::string_view(fixed(g.m.bank));
 }
 

@@ -87,11 +87,12 @@ std::string hold_name(const game& g, element e, int n) {
     if (a == art::stoppicdark || a == art::stoppiclight)
         return numbered("Stop reel", n, {});
     const machine& m = g.m;
-    const bool held = (n == 1 ? m.reel1held : n == 2 ? m.reel2held : m.reel3held) == "yes";
+    const bool held = (n == 1 ? m.reel1held : n == 2 ? m.reel2held : m.reel3held) == flag::yes;
     const std::string name = numbered("Hold reel", n, {});
     if (held)
         return name + ", held";
-    return m.holdsoffered == "yes" && m.nudges == 0 && m.holdsbarred != "true" ? name + ", offered" : name;
+    return m.holdsoffered == flag::yes && m.nudges == 0 && m.holdsbarred != truth::is ? name + ", offered"
+                                                                                      : name;
 }
 
 // The marks round a flashing text are not read out.
@@ -119,7 +120,7 @@ std::string counted(std::string_view figures, std::string_view one, std::string_
 std::string money_in_words(const game& g, single amount) {
     const short_text all = fixed(amount);
     const std::string_view text = all;
-    const bool dollars = g.m.currency == "usd";
+    const bool dollars = g.m.currency == setting::usd;
     std::string words = counted(text.substr(0, text.size() - 3), dollars ? "dollar" : "pound",
                                 dollars ? "dollars" : "pounds");
     const std::string_view odd = text.substr(text.size() - 2);

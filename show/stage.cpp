@@ -27,7 +27,7 @@ void take_in(stage& s, const game& g, std::int64_t now) {
         for (std::size_t e = 0; e < element_count; ++e)
             if (g.p.elements[e].touched)
                 take_in_lamp(s, g.p, static_cast<element>(e), now);
-    s.still_logo = g.m.flashlogo == "no";
+    s.still_logo = g.m.flashlogo == flag::no;
     s.logo = at(g.p, element::toplogo);
     s.logo.picture = art::title;
     s.fresh = false;

@@ -27,12 +27,12 @@ void feature_start_thin_ice(game& g) {
 }
 
 void feature_yesorno(game& g) {
-    set_interval(g.p, timer::feature_yesorno, g.m.invincible == "yes" ? 500 : 100);
+    set_interval(g.p, timer::feature_yesorno, g.m.invincible == flag::yes ? 500 : 100);
     if (g.b.yesnostep == 0)
         g.b.yesnostep = 1;
     const bool yes = g.b.yesnostep == 2;
     play(g, yes ? sound::yes : sound::no);
-    g.b.yesnoanswer = yes ? "yes" : "no";
+    g.b.yesnoanswer = yes ? flag::yes : flag::no;
     board_line(g, yes ? " YES      CONTINUE" : "          CONTINUE      NO");
     next_of_two(g.b.yesnostep);
 }

@@ -10,7 +10,7 @@ namespace {
 
 void fastcash_live(game& g) {
     board_line(g, "       * FAST CASH *");
-    g.m.award = "fastcash";
+    g.m.award = award::fastcash;
     enable(g.p, element::feature_stopfeature);
     g.m.win = 0;
     g.b.readystep = 1;
@@ -41,14 +41,14 @@ void feature_fastcash(game& g) {
     const bool low_toss = draw(g, 4) <= 2;
     const int rung = g.b.readystep;
     if (rung != 4)
-        g.m.fastcashway = low_toss == (rung < 4) ? "down" : "up";
-    if (g.m.fastcashway == "up") {
+        g.m.fastcashway = low_toss == (rung < 4) ? way::down : way::up;
+    if (g.m.fastcashway == way::up) {
         if (rung >= 1 && rung <= 10) {
             light_cash(g, rung);
             g.m.win = cash_value(rung);
         }
         set(g.b.readystep, rung == 10 ? 10 : rung + 1);
-    } else if (g.m.fastcashway == "down") {
+    } else if (g.m.fastcashway == way::down) {
         if (rung >= 2 && rung <= 10) {
             dark_cash(g, rung);
             g.m.win = cash_value(rung - 1);

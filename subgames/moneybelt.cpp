@@ -20,7 +20,7 @@ constexpr std::size_t window_cells = 26;
 
 void step_on(game& g) { set(g.b.beltstep, g.b.beltstep + 1); }
 
-bool creepy(const game& g) { return g.m.award == "moneybelt"; }
+bool creepy(const game& g) { return g.m.award == award::moneybelt; }
 
 void belt_live(game& g) {
     const int row = draw(g, belts_each);

@@ -53,7 +53,7 @@ void lightboardlabels(game& g) {
 
 // The guarded run can be read and chosen; otherwise the light is too fast.
 void shock_live(game& g) {
-    if (g.m.invincible == "yes") {
+    if (g.m.invincible == flag::yes) {
         start_timer(g.p, timer::feature_shock_trueskill);
         stop_timer(g.p, timer::feature_shock_timer);
     } else {

@@ -51,7 +51,7 @@ bool prize_left(const game& g) {
 }
 
 void fire(game& g) {
-    g.b.shotstate = "stop";
+    g.b.shotstate = shooting::on_offer;
     stop_timer(g.p, timer::feature_shots_timer);
     enable(g.p, feature_collect);
     set(g.b.shots, g.b.shots - 1);
@@ -62,7 +62,7 @@ void fire(game& g) {
 }
 
 void give_up(game& g) {
-    g.b.shotstate = "start";
+    g.b.shotstate = shooting::given_up;
     clearcashladder(g);
     start_timer(g.p, timer::feature_shots_timer);
     play(g, sound::fastcash);
@@ -77,7 +77,7 @@ void end_shots(game& g) {
         jackpotrepeater(g);
         return;
     }
-    g.b.shotstate = "";
+    g.b.shotstate = shooting::idle;
     disable(g.p, feature_stopfeature);
     won_line(g);
     start_timer(g.p, timer::feature_exittimer);
@@ -130,7 +130,7 @@ void feature_shots_timer(game& g) {
 
 void shot(game& g) {
     flash_lines(g, false);
-    if (g.b.shotstate == "stop")
+    if (g.b.shotstate == shooting::on_offer)
         give_up(g);
     else
         fire(g);

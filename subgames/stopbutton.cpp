@@ -15,8 +15,8 @@ bool life_held(const game& g) { return is_visible(g.p, feature_el); }
 
 // The choice between the ladders and the YES or NO have no answer before their first tick.
 bool nothing_to_stop(const game& g) {
-    return (g.m.award == "pickaladder" && g.b.ladderpick == 0) ||
-           (g.m.award == "continue" && g.b.yesnoanswer.empty());
+    return (g.m.award == award::pickaladder && g.b.ladderpick == 0) ||
+           (g.m.award == award::skilldecide && g.b.yesnoanswer.empty());
 }
 
 // The token lands where the light stands.
@@ -60,21 +60,21 @@ void stop_fastcash(game& g) {
 // The belt's timer goes on and finishes the run.
 void stop_moneybelt(game& g) {
     disable(g.p, feature_stopfeature);
-    g.m.award = "moneybelt";
+    g.m.award = award::moneybelt;
     g.b.beltphase = 2;
     play(g, sound::collect);
 }
 
 void answer_yes(game& g) {
     enable(g.p, feature_startbutton);
-    g.m.award = "nothing";
+    g.m.award = award::nothing;
     play(g, sound::excelent);
     board_line(g, "         GOOD SHOT");
 }
 
 void answer_no(game& g) {
     if (life_held(g)) {
-        g.m.award = "nothing";
+        g.m.award = award::nothing;
         start_timer(g.p, timer::feature_savedbyextra);
         return;
     }
@@ -89,9 +89,9 @@ void stop_yesorno(game& g) {
     stop_timer(g.p, timer::feature_yesorno);
     disable(g.p, feature_stopfeature);
     hold_the_machine(g, 1);
-    if (g.b.yesnoanswer == "yes")
+    if (g.b.yesnoanswer == flag::yes)
         answer_yes(g);
-    else if (g.b.yesnoanswer == "no")
+    else if (g.b.yesnoanswer == flag::no)
         answer_no(g);
 }
 
@@ -108,7 +108,7 @@ void shock_lost(game& g) {
 
 void shock_gameover(game& g) {
     if (life_held(g))
-        g.m.award = "nothing";
+        g.m.award = award::nothing;
     shock_lost(g);
 }
 
@@ -121,7 +121,7 @@ void shock_bomb(game& g) {
 
 void shock_skilldecide(game& g) {
     play(g, sound::thinice);
-    g.m.award = "continue";
+    g.m.award = award::skilldecide;
     board_line(g, "        * CONTINUE *");
     show(g.p, feature_stopfeature);
     disable(g.p, feature_stopfeature);
@@ -139,7 +139,7 @@ void shock_xtralife(game& g) {
 void shock_takeprize(game& g) {
     feature_darkbuttons(g);
     board_line(g, "      *** SCARPER ***");
-    g.m.award = "pickaladder";
+    g.m.award = award::pickaladder;
     g.b.ladderpick = 0;
     start_timer(g.p, timer::feature_pickaladder);
 }
@@ -164,7 +164,7 @@ constexpr std::array<action, 8> shock_outcomes = {
 };
 
 void stop_shock(game& g) {
-    g.m.award = "";
+    g.m.award = award::none;
     stop_timer(g.p, timer::feature_shock_timer);
     stop_timer(g.p, timer::feature_shock_trueskill);
     if (g.b.shockpos >= 1 && g.b.shockpos <= 8)
@@ -177,11 +177,11 @@ struct stop_row {
 };
 
 constexpr stop_row stops[] = {
-    {"pickaladder", stop_pickaladder},  {"randomstop", stop_randomstop},
-    {"skillstop", stop_skillstop},      {"shots", shot},
-    {"electricshock", stop_shock},      {"continue", stop_yesorno},
-    {"fastcash", stop_fastcash},        {"moneybelt", stop_moneybelt},
-    {"supermoneybelt", stop_moneybelt},
+    {award::pickaladder, stop_pickaladder},  {award::randomstop, stop_randomstop},
+    {award::skillstop, stop_skillstop},      {award::shots, shot},
+    {award::electricshock, stop_shock},      {award::skilldecide, stop_yesorno},
+    {award::fastcash, stop_fastcash},        {award::moneybelt, stop_moneybelt},
+    {award::supermoneybelt, stop_moneybelt},
 };
 
 } // namespace

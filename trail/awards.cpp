@@ -103,7 +103,7 @@ void take_spinawin(game& g) {
     set(m.nudges, 0);
     text(g);
     set(m.winspinsleft, 1);
-    m.award = "winspins";
+    m.award = award::winspins;
     start_timer(g.p, timer::start_winspins);
     disable(g.p, stopper);
 }

@@ -23,7 +23,7 @@ void nothing_to_play(game& g) {
     set_picture(p, picture1, art::nudge0);
     set_picture(p, cancelbutton, art::cancelpicdark);
     set(m.pairholds, 0);
-    m.linepromised = "false";
+    m.linepromised = truth::is_not;
     clearholds(g);
 }
 
@@ -92,7 +92,7 @@ void open_board(game& g) {
     stop_timer(g.p, timer::feature_start);
     set(m.awardwait, 0);
     set(m.lampphase, 0);
-    m.featuremode = m.win == 1 && m.trailvalue >= 9 ? "feature" : "hilo";
+    m.featuremode = m.win == 1 && m.trailvalue >= 9 ? mode::feature : mode::hilo;
     load_screen(g, screen::feature);
 }
 

@@ -18,7 +18,7 @@ constexpr int intro_end = 10;
 
 // What the money has settled before the press. Only the middle band is left to the player's timing.
 answer settled(const machine& m) {
-    if (m.award == "winstreak")
+    if (m.award == award::winstreak)
         return m.streaktotal <= streak_limit ? answer::yes : answer::no;
     if (m.pcent <= low_band)
         return m.repeatcount < repeats_in_low_band ? answer::yes : answer::no;
@@ -27,7 +27,7 @@ answer settled(const machine& m) {
 
 void answer_yes(game& g) {
     machine& m = g.m;
-    if (m.award == "winstreak") {
+    if (m.award == award::winstreak) {
         start_timer(g.p, timer::start_winstreak);
         return;
     }
@@ -42,7 +42,7 @@ void answer_no(game& g) {
     figuresline(g);
     disable(g.p, stopper);
     enable(g.p, start);
-    if (m.award == "jackpot")
+    if (m.award == award::jackpot)
         set(m.repeatcount, 0);
 }
 
@@ -66,7 +66,7 @@ void start_repeatchance(game& g) {
 
 void yes_no(game& g) {
     machine& m = g.m;
-    if (m.repeatpressed == "yes") {
+    if (m.repeatpressed == flag::yes) {
         const answer due = settled(m);
         if (due == answer::either || static_cast<int>(due) == m.repeatphase) {
             stop_timer(g.p, timer::yes_no);
@@ -75,14 +75,14 @@ void yes_no(game& g) {
             else
                 answer_no(g);
             hold_the_machine(g, m.pausesecs);
-            m.repeatpressed = "no";
+            m.repeatpressed = flag::no;
             return;
         }
     }
     const bool yes = m.repeatphase == 1;
     set(m.repeatphase, yes ? 2 : 1);
     play(g, yes ? sound::yes : sound::no);
-    m.repeatanswer = yes ? "yes" : "no";
+    m.repeatanswer = yes ? flag::yes : flag::no;
     line(g, yes ? "YES    REPEAT CHANCE" : "       REPEAT CHANCE     NO");
 }
 

@@ -8,7 +8,7 @@ namespace hustle {
 
 void starttrailrun(game& g) {
     machine& m = g.m;
-    const bool first = m.reel1num > 0 && m.linepromised == "false";
+    const bool first = m.reel1num > 0 && m.linepromised == truth::is_not;
     if (first || m.reel2num > 0 || m.reel3num > 0) {
         m.trailtarget = m.trailvalue;
         start_timer(g.p, timer::numbers2);

@@ -18,7 +18,7 @@ void bonus_stop(game& g) {
 }
 
 void repeat_stop(game& g) {
-    g.m.repeatpressed = "yes";
+    g.m.repeatpressed = flag::yes;
     set_picture(g.p, stopper, art::stoppicdark);
     disable(g.p, stopper);
 }
@@ -67,9 +67,9 @@ void stopperpress(game& g) {
         return;
     }
     stop_running(g, nudge_stops);
-    if (m.award == "pickawin") {
+    if (m.award == award::pickawin) {
         play(g, sound::yeah);
-        m.pickstopped = "yes";
+        m.pickstopped = flag::yes;
     }
     stop_running(g, game_stops);
 }

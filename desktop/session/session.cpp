@@ -156,7 +156,9 @@ void first_painted(session& s) {
     QTimer::singleShot(0, &s.wake, [&s] { after_first_frame(s); });
 }
 
-void set_loudness(session& s) { set_volume(s.view.muted || s.g.m.soundstate != "on" ? 0 : s.view.volume); }
+void set_loudness(session& s) {
+    set_volume(s.view.muted || s.g.m.soundstate != setting::on ? 0 : s.view.volume);
+}
 
 void end_session(session& s) {
     if (s.window != nullptr && !s.window->isFullScreen())
