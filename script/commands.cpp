@@ -3,6 +3,7 @@
 #include "core/reels.h"
 #include "panel/sheet.h"
 #include "script/dump.h"
+#include "script/reading.h"
 #include "script/session.h"
 
 #include <array>
@@ -38,7 +39,7 @@ struct command_row {
 
 constexpr std::size_t any = ~std::size_t{0};
 constexpr long long a_day = 86'400;
-constexpr long long longest_run = 1'000'000'000'000; // ms, some thirty years
+constexpr long long longest_run = 86'400'000; // ms, a day
 
 bool next_line(runner& r, std::string_view& line) {
     if (r.rest.empty())
@@ -57,10 +58,13 @@ void before_boot(const runner& r, std::string_view command) {
         throw script_error(std::string(command) + " is only taken before the boot");
 }
 
-void failed(runner& r, const cell& c, const token& wanted) {
+void tell_wrong(runner& r, const std::string& what) {
     r.out.flush();
-    r.err << r.file << ':' << r.line << ": expected " << c.name << " = " << written(wanted) << ", found "
-          << shown(c.where) << '\n';
+    r.err << printable(r.file) << ':' << r.line << ": " << printable(what) << '\n';
+}
+
+void failed(runner& r, const cell& c, const token& wanted) {
+    tell_wrong(r, "expected " + c.name + " = " + written(wanted) + ", found " + shown(c.where));
     r.status = 1;
 }
 
@@ -283,8 +287,7 @@ int run_lines(runner& r) {
         for (std::string_view line; next_line(r, line);)
             run_line(r, line);
     } catch (const script_error& wrong) {
-        r.out.flush();
-        r.err << r.file << ':' << r.line << ": " << wrong.what() << '\n';
+        tell_wrong(r, wrong.what());
         return 2;
     }
     return r.status;

@@ -4,22 +4,24 @@ namespace hustle::script {
 
 namespace {
 
-#define MACHINE(name)                                                                                        \
-    field_row { #name, &machine::name }
-#define BOARD(name)                                                                                          \
-    field_row { "feature." #name, &board::name }
-#define ON_ENTERNAME(name)                                                                                   \
-    field_row { "Entername." #name, &table_fields::name }
-#define ON_HIGHSCORE(name)                                                                                   \
-    field_row { "Highscore." #name, &table_fields::name }
+#define MACHINE(name, ...)                                                                                   \
+    field_row { #name, &machine::name __VA_OPT__(, range{__VA_ARGS__}) }
+#define BOARD(name, ...)                                                                                     \
+    field_row { "feature." #name, &board::name __VA_OPT__(, range{__VA_ARGS__}) }
+#define ON_ENTERNAME(name, ...)                                                                              \
+    field_row { "Entername." #name, &table_fields::name __VA_OPT__(, range{__VA_ARGS__}) }
+#define ON_HIGHSCORE(name, ...)                                                                              \
+    field_row { "Highscore." #name, &table_fields::name __VA_OPT__(, range{__VA_ARGS__}) }
 
+// A field that stands in for a row of some table has the range that the table bears; 0 is what it has
+// before its first run and, where that is so, between its runs.
 // clang-format off
 const field_row rows[] = {
     MACHINE(bank), MACHINE(win), MACHINE(moneyin), MACHINE(moneyout), MACHINE(pcent), MACHINE(lastwin),
     MACHINE(hopper), MACHINE(cashbox), MACHINE(winbank), MACHINE(streakbank), MACHINE(housecut),
     MACHINE(credits), MACHINE(streaktotal), MACHINE(bonuswin), MACHINE(bonuspence), MACHINE(newscore),
     MACHINE(reelspeed), MACHINE(ledcolour), MACHINE(soundstate), MACHINE(flashlogo), MACHINE(currency),
-    MACHINE(version), MACHINE(reel1pos), MACHINE(reel2pos), MACHINE(reel3pos), MACHINE(reel1sym),
+    MACHINE(version), MACHINE(reel1pos, 0, 16), MACHINE(reel2pos, 0, 16), MACHINE(reel3pos, 0, 16), MACHINE(reel1sym),
     MACHINE(reel2sym), MACHINE(reel3sym), MACHINE(reel1num), MACHINE(reel2num), MACHINE(reel3num),
     MACHINE(reel1held), MACHINE(reel2held), MACHINE(reel3held), MACHINE(spinstep), MACHINE(spinwait),
     MACHINE(award), MACHINE(featuremode), MACHINE(invincible), MACHINE(pickstopped), MACHINE(pickspins),
@@ -29,24 +31,24 @@ const field_row rows[] = {
     MACHINE(textstep), MACHINE(holdsequence), MACHINE(nudges), MACHINE(nudgemode), MACHINE(nudgedraw),
     MACHINE(nudgestep), MACHINE(addstep), MACHINE(lastfigure), MACHINE(trailbusy), MACHINE(paystep),
     MACHINE(payendstep), MACHINE(transferstep), MACHINE(pausesecs), MACHINE(scratch), MACHINE(trailvalue),
-    MACHINE(trailtarget), MACHINE(runnersteps), MACHINE(climbpair), MACHINE(flashcount), MACHINE(walkstep),
-    MACHINE(selectorlast), MACHINE(selectorticks), MACHINE(bonuspick), MACHINE(lastbonuspick),
+    MACHINE(trailtarget), MACHINE(runnersteps), MACHINE(climbpair, 0, 5), MACHINE(flashcount), MACHINE(walkstep, 0, 9),
+    MACHINE(selectorlast), MACHINE(selectorticks), MACHINE(bonuspick, 0, 11), MACHINE(lastbonuspick, 0, 11),
     MACHINE(bonusintro), MACHINE(boostcount), MACHINE(repeatintro), MACHINE(repeatphase),
-    MACHINE(repeatanswer), MACHINE(repeatpressed), MACHINE(repeatcount), MACHINE(rollstep),
+    MACHINE(repeatanswer), MACHINE(repeatpressed), MACHINE(repeatcount), MACHINE(rollstep, 0, 16),
     MACHINE(lampstep), MACHINE(scrollstep), MACHINE(attractstep), MACHINE(logoflash),
 
-    BOARD(cashrung), BOARD(cashrun), BOARD(cashsteps), BOARD(featurerung), BOARD(featurerun),
-    BOARD(featuresteps), BOARD(shots), BOARD(shotsteps), BOARD(rolltries), BOARD(fadestep), BOARD(dice),
-    BOARD(lastdice), BOARD(hilochoice), BOARD(boardpos), BOARD(movepos), BOARD(exitstep), BOARD(flashstep),
+    BOARD(cashrung, 0, 10), BOARD(cashrun, 0, 10), BOARD(cashsteps), BOARD(featurerung, 0, 10), BOARD(featurerun, 0, 10),
+    BOARD(featuresteps), BOARD(shots), BOARD(shotsteps), BOARD(rolltries), BOARD(fadestep, 0, 24), BOARD(dice, 0, 6),
+    BOARD(lastdice, 0, 6), BOARD(hilochoice), BOARD(boardpos, 0, 24), BOARD(movepos, 0, 24), BOARD(exitstep), BOARD(flashstep),
     BOARD(readystep), BOARD(hilostep), BOARD(dicestep), BOARD(climbstep), BOARD(boardphase),
     BOARD(lightphase), BOARD(logophase), BOARD(lightticks), BOARD(shotsatstart), BOARD(shotstate),
-    BOARD(shotflash), BOARD(skillwait), BOARD(skillstep), BOARD(randomwait), BOARD(beltphase),
+    BOARD(shotflash), BOARD(skillwait), BOARD(skillstep, 0, 24), BOARD(randomwait), BOARD(beltphase, 0, 4),
     BOARD(beltstep), BOARD(beltstrip), BOARD(beltwindow), BOARD(beltprize1), BOARD(beltprize2),
-    BOARD(beltprize3), BOARD(shockpos), BOARD(lastshock), BOARD(shortwait), BOARD(yesnostep),
-    BOARD(yesnoanswer), BOARD(ladderpick),
+    BOARD(beltprize3), BOARD(shockpos, 0, 10), BOARD(lastshock, 0, 8), BOARD(shortwait), BOARD(yesnostep),
+    BOARD(yesnoanswer), BOARD(ladderpick, 0, 2),
 
     ON_ENTERNAME(entrytext), ON_ENTERNAME(entrycount), ON_ENTERNAME(submitflash),
-    ON_HIGHSCORE(swapscore), ON_HIGHSCORE(swapname), ON_HIGHSCORE(flashrow), ON_HIGHSCORE(rowflash),
+    ON_HIGHSCORE(swapscore), ON_HIGHSCORE(swapname), ON_HIGHSCORE(flashrow, 0, 10), ON_HIGHSCORE(rowflash),
     ON_HIGHSCORE(buttonflash),
 
     {"software.splashticks", &machine::splashticks},

@@ -17,17 +17,17 @@ std::size_t length_of(unsigned char first) {
     return first >= 0xF0 && first < 0xF5 ? 4 : 0;
 }
 
-bool is_utf8(std::string_view text) {
-    for (std::size_t i = 0; i < text.size();) {
-        const std::size_t length = length_of(static_cast<unsigned char>(text[i]));
-        if (length == 0 || i + length > text.size())
-            return false;
-        for (std::size_t k = 1; k < length; ++k)
-            if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80)
-                return false;
+// What a line must not hold: bytes that are no UTF-8, and control characters but the blanks.
+void check_text(std::string_view line) {
+    for (std::size_t i = 0; i < line.size();) {
+        const std::size_t length = character_at(line, i);
+        if (length == 0)
+            throw script_error("the line is not UTF-8");
+        const auto c = static_cast<unsigned char>(line[i]);
+        if ((c < 0x20 && !is_blank(line[i])) || c == 0x7F)
+            throw script_error("a control character stands in the line");
         i += length;
     }
-    return true;
 }
 
 char escaped(char c) {
@@ -65,9 +65,18 @@ token read_word(std::string_view line, std::size_t& i) {
 
 } // namespace
 
+std::size_t character_at(std::string_view text, std::size_t i) {
+    const std::size_t length = length_of(static_cast<unsigned char>(text[i]));
+    if (length == 0 || i + length > text.size())
+        return 0;
+    for (std::size_t k = 1; k < length; ++k)
+        if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80)
+            return 0;
+    return length;
+}
+
 std::vector<token> words_of(std::string_view line) {
-    if (!is_utf8(line))
-        throw script_error("the line is not UTF-8");
+    check_text(line);
     std::vector<token> words;
     std::size_t i = 0;
     while (i < line.size() && line[i] != '#') {

@@ -19,8 +19,13 @@ struct token {
 };
 
 // The words of one line; none for an empty line or one that holds a comment alone. Throws
-// script_error for a text without its end, an unknown escape, or bytes that are no UTF-8.
+// script_error for a text without its end, an unknown escape, bytes that are no UTF-8, or a control
+// character.
 std::vector<token> words_of(std::string_view line);
+
+// How many bytes the UTF-8 character takes that begins at `i`, which is below the size; 0 where none
+// begins.
+std::size_t character_at(std::string_view text, std::size_t i);
 
 // A text as a script writes it: in double quotes, with \" \\ \r \n.
 std::string quote(std::string_view text);

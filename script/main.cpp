@@ -2,20 +2,10 @@
 // hustlescript --signature: prints one number for the behaviour of the whole machine.
 #include "script/commands.h"
 #include "script/monkey.h"
+#include "script/reading.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <string>
-
-namespace {
-
-bool read_all(std::istream& from, std::string& text) {
-    text.assign(std::istreambuf_iterator<char>(from), {});
-    return !from.bad();
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     if (argc > 2) {
@@ -29,15 +19,10 @@ int main(int argc, char** argv) {
     }
     const std::string name = argc == 2 ? argv[1] : "stdin";
     std::string text;
-    bool read = false;
-    if (argc == 2) {
-        std::ifstream file(name, std::ios::binary);
-        read = file && read_all(file, text) && !file.fail();
-    } else {
-        read = read_all(std::cin, text);
-    }
-    if (!read) {
-        std::cerr << name << ": cannot be read\n";
+    const std::string wrong = argc == 2 ? hustle::script::read_script_file(name, text)
+                                        : hustle::script::read_script(std::cin, text);
+    if (!wrong.empty()) {
+        std::cerr << hustle::script::printable(name) << ": " << wrong << '\n';
         return 2;
     }
     const int status = hustle::script::run_script(text, name, std::cout, std::cerr);

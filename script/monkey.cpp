@@ -98,6 +98,18 @@ struct monkey {
             make(deed::close, any_of(screen_count));
         if (choose(200) == 0)
             make(deed::call, any_of(operation_rows().size()));
+        if (choose(200) == 0)
+            make(deed::load, any_of(screen_count));
+        if (choose(60) == 0)
+            make(deed::begin, any_of(timer_count));
+        if (choose(100) == 0)
+            make(deed::award, any_of(award_words().size()));
+        if (choose(20) == 0)
+            make(deed::pcent, 50 + choose(60));
+        if (choose(100) == 0)
+            make(deed::win, choose(17));
+        if (choose(100) == 0)
+            make(deed::credits, choose(4));
     }
 
     void step() {
@@ -158,7 +170,7 @@ std::vector<move> shortest(const outing& o, long ticks) {
 std::uint64_t whole_signature() {
     std::uint64_t all = 0;
     for (std::uint64_t seed = 1; seed <= 16; ++seed)
-        all = all * 31 + let_loose(seed, 25'000, true).whole;
+        all = all * 31 + let_loose(seed, 75'000, true).whole;
     return all;
 }
 

@@ -1,5 +1,6 @@
 #include "script/moves.h"
 
+#include "core/upward.h"
 #include "panel/sheet.h"
 #include "screens/dispatch.h"
 #include "script/names.h"
@@ -20,6 +21,13 @@ void key(game& g, int value) {
 void close(game& g, int s) { apply(g, {.what = input::kind::close, .where = as_screen(s)}); }
 void call(game& g, int operation) { as_operation(operation).run(g); }
 
+constexpr word awards[] = {"",         "nothing",     "continue",  "electricshock",  "fastcash",
+                           "jackpot",  "luckysevens", "moneybelt", "supermoneybelt", "pickaladder",
+                           "pickawin", "randomstop",  "shots",     "skillstop",      "winspins",
+                           "winstreak"};
+word as_award(int value) { return awards[value]; }
+timer as_timer(int value) { return static_cast<timer>(value); }
+
 std::string element_text(int e) { return full_name(as_element(e)); }
 std::string number_text(int value) { return std::to_string(value); }
 std::string bomb_text(int e) { return element_text(e) + ".art bombiconlight"; }
@@ -29,6 +37,9 @@ std::string call_text(int operation) {
     const operation_row& o = as_operation(operation);
     return std::string(row(o.where).name) + "." + std::string(o.name);
 }
+
+std::string timer_text(int t) { return full_name(as_timer(t)) + ".running true"; }
+std::string award_text(int value) { return quote(as_award(value)); }
 
 struct deed_row {
     deed what;
@@ -53,12 +64,23 @@ constexpr deed_row deeds[] = {
     {deed::key,         "key ",               key_text,     key},
     {deed::close,       "close ",             screen_text,  close},
     {deed::call,        "call ",              call_text,    call},
+    {deed::load,        "load ",              screen_text,  [](game& g, int s) { load_screen(g, as_screen(s)); }},
+    {deed::begin,       "set ",               timer_text,   [](game& g, int t) { start_timer(g.p, as_timer(t)); }},
+    {deed::award,       "set award ",         award_text,   [](game& g, int to) { g.m.award = as_award(to); }},
+    {deed::pcent,       "set pcent ",         number_text,
+                        [](game& g, int to) { g.m.pcent = static_cast<single>(to); }},
+    {deed::win,         "set win ",           number_text,
+                        [](game& g, int to) { g.m.win = static_cast<single>(to); }},
+    {deed::credits,     "set credits ",       number_text,
+                        [](game& g, int to) { g.m.credits = static_cast<single>(to); }},
 };
 // clang-format on
 
 const deed_row& row(deed d) { return deeds[static_cast<std::size_t>(d)]; }
 
 } // namespace
+
+std::span<const word> award_words() { return awards; }
 
 void make(game& g, monkeyworld& w, const move& m) {
     w.yes = m.what == deed::press_yes;

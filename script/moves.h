@@ -25,6 +25,12 @@ enum class deed : std::uint8_t {
     key,   // a code, and a screen in the lowest four bits
     close, // a screen
     call,  // an operation of operation_rows()
+    load,  // a screen
+    begin, // a timer is started
+    award, // a word of award_words()
+    pcent,
+    win,
+    credits,
 };
 
 struct move {
@@ -50,6 +56,8 @@ struct monkeyworld final : stillworld {
 private:
     void hear(std::uint64_t what) { heard = heard * 31 + what; }
 };
+
+std::span<const word> award_words();
 
 // Makes any move but `run`, which is the business of who counts the ticks.
 void make(game&, monkeyworld&, const move&);

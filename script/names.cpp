@@ -81,14 +81,14 @@ void names::add_fields(game& g) {
         slot operator()(std::string table_fields::*f) const { return &(g.t.*f); }
     } const place{g};
     for (const field_row& f : field_rows())
-        add_field(std::string(f.name), std::visit(place, f.where));
+        add_field(std::string(f.name), std::visit(place, f.where), f.bears);
     for (std::size_t i = 0; i < g.m.hiscore.size(); ++i) {
-        add_field("hiscore" + std::to_string(i + 1), &g.m.hiscore[i]);
-        add_field("hiname" + std::to_string(i + 1), &g.m.hiname[i]);
+        add_field("hiscore" + std::to_string(i + 1), &g.m.hiscore[i], {});
+        add_field("hiname" + std::to_string(i + 1), &g.m.hiname[i], {});
     }
 }
 
-void names::add_field(std::string name, slot where) {
+void names::add_field(std::string name, slot where, std::optional<range> bears) {
     std::function<void(const value&)> store;
     if (const auto* number = std::get_if<single*>(&where))
         store = [v = *number](const value& to) { *v = static_cast<single>(to.number); };
@@ -98,7 +98,7 @@ void names::add_field(std::string name, slot where) {
         store = [v = *text](const value& to) { *v = to.text; };
     else if (const auto* flag = std::get_if<word*>(&where))
         store = [this, v = *flag](const value& to) { *v = kept.emplace_back(to.text); };
-    cells.push_back({std::move(name), where, std::move(store)});
+    cells.push_back({std::move(name), where, std::move(store), true, bears});
     places.push_back(where);
 }
 

@@ -35,6 +35,7 @@ using field_place = std::variant<single machine::*, count machine::*, word machi
 struct field_row {
     std::string_view name;
     field_place where;
+    std::optional<range> bears = {}; // empty: all that its kind can hold
 };
 std::span<const field_row> field_rows();
 
@@ -54,7 +55,7 @@ public:
 
 private:
     void add_fields(game&);
-    void add_field(std::string name, slot);
+    void add_field(std::string name, slot, std::optional<range>);
     void add_elements(panel&);
     void add_timers(panel&);
     void add_screens(panel&);

@@ -2,6 +2,7 @@
 #include "script/commands.h"
 #include "script/dump.h"
 #include "script/lexer.h"
+#include "script/reading.h"
 #include "script/session.h"
 
 #include <gtest/gtest.h>
@@ -55,6 +56,14 @@ TEST(script, ends_at_the_first_line_that_makes_no_sense) {
         {"set front main", "front can only be read"},
         {"set drawn 0", "drawn can only be read"},
         {"set main.butflash.interval 0", "main.butflash.interval takes a number from 1 to 2147483647, not 0"},
+        {"set feature.boardpos 25", "feature.boardpos takes a number from 0 to 24, not 25"},
+        {"set feature.movepos -1", "feature.movepos takes a number from 0 to 24, not -1"},
+        {"set feature.shockpos 11", "feature.shockpos takes a number from 0 to 10, not 11"},
+        {"set feature.cashrung 11", "feature.cashrung takes a number from 0 to 10, not 11"},
+        {"set Highscore.flashrow 11", "Highscore.flashrow takes a number from 0 to 10, not 11"},
+        {"run 86400001", "run takes a number from 0 to 86400000, not 86400001"},
+        {"set award \"\x1b[2J\"", "a control character stands in the line"},
+        {"get \xe2\x80\xae!", "unknown name ?!"},
         {"reel 4 1", "reel takes a number from 1 to 3, not 4"},
         {"type main.start \"x\"", "main.start is no text box"},
         {"answer perhaps", "answer takes yes, no or ok, not perhaps"},
@@ -72,6 +81,20 @@ TEST(script, ends_at_the_first_line_that_makes_no_sense) {
     EXPECT_EQ(run("# one\n\njump").err, "s:3: unknown command jump\n");
     EXPECT_EQ(run("boot\nclock 5").err, "s:2: clock is only taken before the boot\n");
     EXPECT_EQ(run("draws 17\npress main.start\nrun 9\nuntil reel1pos 1").err.substr(0, 4), "s:4:");
+}
+
+// Scripts come with fault reports, from anyone.
+TEST(script, takes_only_whole_texts_of_a_bounded_size) {
+    std::string text;
+    EXPECT_EQ(read_script_file("/", text), "is a folder");
+    EXPECT_EQ(read_script_file("nowhere.txt", text), "cannot be read");
+    EXPECT_EQ(read_script_file("/dev/zero", text), "is longer than 16777216 bytes");
+    std::istringstream binary(std::string("run 5\0", 6)), plain("run 5");
+    EXPECT_EQ(read_script(binary, text), "is no text");
+    EXPECT_EQ(read_script(plain, text), "");
+    EXPECT_EQ(text, "run 5");
+    EXPECT_EQ(printable("a\x1b[2J\x7f\xc2\x9b£\n"), "a?[2J??£?");
+    EXPECT_EQ(printable(std::string(500, 'x')), std::string(400, 'x') + "...");
 }
 
 TEST(script, goes_on_after_what_does_not_hold) {

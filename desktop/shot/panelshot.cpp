@@ -4,6 +4,7 @@
 // the machine without playing up to it.
 #include "desktop/painting/painting.h"
 #include "script/commands.h"
+#include "script/reading.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -11,9 +12,7 @@
 
 #include <cmath>
 #include <cstdio>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 namespace {
 
@@ -66,15 +65,18 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const screen_row* const what = screen_named(argv[2]);
-    std::ifstream file(argv[1], std::ios::binary);
-    const std::string script(std::istreambuf_iterator<char>(file), {});
+    std::string text;
+    if (const std::string wrong = script::read_script_file(argv[1], text); !wrong.empty()) {
+        std::cerr << script::printable(argv[1]) << ": " << wrong << '\n';
+        return 2;
+    }
     const int width = argc > 4 ? QString::fromLocal8Bit(argv[4]).toInt() : 800;
-    if (what == nullptr || !file || width < 100 || width > 8000) {
-        std::fputs("panelshot: no such screen or script, or a width outside 100 to 8000\n", stderr);
+    if (what == nullptr || width < 100 || width > 8000) {
+        std::fputs("panelshot: no such screen, or a width outside 100 to 8000\n", stderr);
         return 2;
     }
     bool saved = false;
-    const int status = script::run_script(script, argv[1], std::cout, std::cerr, [&](const game& g) {
+    const int status = script::run_script(text, argv[1], std::cout, std::cerr, [&](const game& g) {
         saved = painted(g, what->id, width).save(QString::fromLocal8Bit(argv[3]));
     });
     if (status == 0 && !saved)
