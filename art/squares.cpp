@@ -15,7 +15,7 @@ void coin_icon(pen& p, bool) {
 
 void feature_icon(pen& p, bool on) {
     path(p, star(0, 0, 13, 5.6, 5), {.fill = gold(p), .stroke = on ? "#5a2c02" : "#1a0c02", .width = 1.2});
-    path(p, star(0, -0.5, 7, 3, 5), {.fill = ink::white, .fill_opacity = 0.5});
+    path(p, star(0, -0.5, 7, 3, 5), {.fill = ink::white, .fill_opacity = 0.56});
 }
 
 void target_icon(pen& p, bool) {
@@ -141,6 +141,8 @@ void draw_square(pen& p, int which) {
                          two ? 0.84 : 1);
         f.icon(p, on);
     }
+    if (!on) // an unlit square lies in shade, icon and all: one sees from afar where the light stands
+        box(p, 2, 2, 60, 54, 7, {.fill = "#08020c", .fill_opacity = 0.56});
     if (!f.amount.empty())
         write(p, f.amount, 19.5, 13.5, 17,
               {.fill = on ? ink::white : std::string_view("#ffe9b0"),

@@ -33,7 +33,7 @@ void take_in_belt(stage& s, const game& g, std::int64_t now) {
     if (runs == s.belt.runs && !written)
         return;
     if (s.belt.columns != 0 && !written)
-        add_patch(s, element::feature_displayline);
+        add_patch(s, g.p, element::feature_displayline);
     s.belt = {runs, 0, now};
 }
 
@@ -44,7 +44,7 @@ int advance_belt(stage& s, const game& g, std::int64_t now) {
     const std::int64_t ms = now - s.belt.since;
     const auto columns = static_cast<int>(std::min<std::int64_t>(ms * columns_of_letter / whole, 5));
     if (columns != s.belt.columns)
-        add_patch(s, element::feature_displayline);
+        add_patch(s, g.p, element::feature_displayline);
     s.belt.columns = columns;
     if (columns == columns_of_letter - 1)
         return -1;

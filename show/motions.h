@@ -19,6 +19,6 @@ int advance_win(stage&, const game&, std::int64_t now); // ms until its next pic
 void take_in_lamp(stage&, const panel&, element, std::int64_t now);
 int advance_lamps(stage&, const game&, std::int64_t now); // ms until a held lamp may go on, or -1
 
-void add_patch(stage&, element);
+void add_patch(stage&, const panel&, element);
 
 } // namespace hustle

@@ -132,7 +132,7 @@ bool advance_reel(stage& s, const game& g, int which, std::int64_t now) {
         if (!chain_runs(g.p)) {
             r.on_strip = false;
             r.now = reel_motion::phase::rests;
-            add_patch(s, reel_element(which));
+            add_patch(s, g.p, reel_element(which));
             return false;
         }
         const bool first = r.moved == r.since;
@@ -140,7 +140,7 @@ bool advance_reel(stage& s, const game& g, int which, std::int64_t now) {
         r.moved = now;
         r.blur = s.reduced ? smear : speed_after(ms) * eye_ms;
         if (!s.reduced || first)
-            add_patch(s, reel_element(which));
+            add_patch(s, g.p, reel_element(which));
         return !s.reduced;
     }
     bool over = false;
@@ -149,7 +149,7 @@ bool advance_reel(stage& s, const game& g, int which, std::int64_t now) {
     r.blur = ahead > 0 && r.from > 1.0001 ? full_speed * eye_ms : 0;
     if (over || s.reduced)
         rest(r);
-    add_patch(s, reel_element(which));
+    add_patch(s, g.p, reel_element(which));
     return r.now != reel_motion::phase::rests;
 }
 

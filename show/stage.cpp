@@ -1,6 +1,8 @@
 #include "show/stage.h"
 
+#include "art/lamplooks.h"
 #include "show/motions.h"
+#include "show/places.h"
 
 #include <algorithm>
 
@@ -16,7 +18,12 @@ int sooner(int a, int b) {
 
 } // namespace
 
-void add_patch(stage& s, element e) { s.patches.push_back({row(e).where, row(e).place}); }
+void add_patch(stage& s, const panel& p, element e) {
+    rect area = seen_place(p, e);
+    const int reach = is_lamp(row(e)) ? (glow_reach + 1) * 15 : 0;
+    area = {area.left - reach, area.top - reach, area.width + 2 * reach, area.height + 2 * reach};
+    s.patches.push_back({row(e).where, area});
+}
 
 void take_in(stage& s, const game& g, std::int64_t now) {
     for (int which = 1; which <= 3; ++which)

@@ -133,7 +133,7 @@ int advance_lamps(stage& s, const game& g, std::int64_t now) {
             note_painted(h, now);
         h.held = false;
         h.quick = 0;
-        add_patch(s, e);
+        add_patch(s, g.p, e);
         return true;
     });
     return next;

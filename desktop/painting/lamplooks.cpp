@@ -10,8 +10,6 @@ namespace hustle::desktop {
 
 namespace {
 
-constexpr double given_up = 0.35; // how much of a disabled lamp is left to see
-
 QPixmap draw_pixmap(const element_row& r, const element_state& state, QSize size) {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
@@ -40,9 +38,7 @@ void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const
     auto found = store.drawn.constFind(key);
     if (found == store.drawn.cend())
         found = store.drawn.insert(key, draw_pixmap(r, state, whole.size()));
-    painter.setOpacity(state.enabled ? 1 : given_up);
     painter.drawPixmap(whole.topLeft(), *found);
-    painter.setOpacity(1);
 }
 
 } // namespace hustle::desktop

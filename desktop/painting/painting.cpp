@@ -3,10 +3,12 @@
 #include "art/lamplooks.h"
 #include "desktop/painting/colours.h"
 #include "desktop/painting/lettering.h"
+#include "show/places.h"
 
 #include <QLinearGradient>
 
 #include <algorithm>
+#include <cmath>
 
 namespace hustle::desktop {
 
@@ -19,7 +21,7 @@ void draw_plain_label(canvas& c, const element_row& r, const element_state& stat
                       QRect box) {
     lettering look;
     look.box = box;
-    look.largest = std::min(box.height() * 0.7, (r.where == screen::statistics ? 13 : 19) * c.pixel);
+    look.largest = std::min(box.height() * 0.7, (r.where == screen::statistics ? 12 : 19) * c.pixel);
     look.wrap = r.where != screen::statistics;
     look.fore = from_bgr(state.fore);
     look.align = r.where == screen::About        ? Qt::AlignLeft | Qt::AlignTop
@@ -113,19 +115,36 @@ void draw_line(canvas& c, element e, const element_state& state, QRect box) {
     if (e == element::feature_displayline)
         draw_rim(c, box);
     const bool runs = e == element::feature_displayline && c.show.belt.runs;
-    draw_dot_line(c.painter, c.dots, box, QString::fromStdString(state.text), state.activecolor,
-                  state.lineflash, runs ? c.show.belt.columns : 0);
+    const QString text = QString::fromStdString(state.text);
+    if (e == element::feature_shotbox) { // a number, always in the middle
+        const int columns = static_cast<int>(text.trimmed().size()) * cell_columns - 1;
+        draw_dot_line(c.painter, c.dots, box, text.trimmed(), state.activecolor, state.lineflash,
+                      (columns - (cells_of(box.width(), box.height()) * cell_columns - 1)) / 2);
+        return;
+    }
+    draw_dot_line(c.painter, c.dots, box, text, state.activecolor, state.lineflash,
+                  runs ? c.show.belt.columns : 0);
 }
 
 } // namespace
 
 QColor ground_colour() { return {22, 13, 30}; }
 
+QRect device_place(const panel& p, element e, double pixel, QPoint origin) {
+    const rect place = seen_place(p, e);
+    const auto to = [pixel](int twips) { return static_cast<int>(std::lround(twips / 15.0 * pixel)); };
+    return {origin.x() + to(place.left), origin.y() + to(place.top), std::max(1, to(place.width)),
+            std::max(1, to(place.height))};
+}
+
 void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed) {
     const element_row& r = row(e);
     const element_state& state = shown(c.show, p, e);
-    if (!state.visible)
+    if (!state.visible) {
+        if (e == element::feature_startbutton) // the key stays in its place, dark
+            c.painter.drawPixmap(box.topLeft(), picture(c.pictures, art::fstartpicdark, box.size()));
         return;
+    }
     switch (r.what) {
     case kind::picture:
     case kind::button:
@@ -148,7 +167,7 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
         if (e == element::Entername_Text2) // says what the box beside it is for
             draw_caption(c, QString::fromStdString(state.text), box);
         else
-            draw_field(c, QString::fromStdString(state.text), box);
+            draw_field(c, QString::fromStdString(state.text).trimmed(), box);
         break;
     case kind::push: draw_push(c, QString::fromStdString(state.text), box, pressed); break;
     case kind::frame:

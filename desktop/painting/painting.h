@@ -28,6 +28,10 @@ struct canvas {
 // The ground on which every screen stands.
 QColor ground_colour();
 
+// Where an element is painted, in device pixels. The size does not hang on the place, so that one
+// drawing serves all elements of one size.
+QRect device_place(const panel&, element, double pixel, QPoint origin);
+
 void draw_element(canvas&, const panel&, element, QRect box, bool pressed);
 // What lies over all elements of main: the glow round the win line, and coins in flight.
 void draw_win(canvas&, const panel&);

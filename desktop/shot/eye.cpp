@@ -29,14 +29,6 @@ QPoint origin_of(const eye& e, screen s) {
     return {room.width(), room.height()};
 }
 
-QRect place(const eye& e, const element_row& r, const element_state& state) {
-    const double twip = pixel_of(e) / twips_to_pixel;
-    const auto to = [twip](int twips) { return static_cast<int>(std::lround(twips * twip)); };
-    const QPoint corner = origin_of(e, r.where);
-    return {corner.x() + to(r.place.left), corner.y() + to(state.top), std::max(1, to(r.place.width)),
-            std::max(1, to(r.place.height))};
-}
-
 QRect with_light(const eye& e, const element_row& r, QRect box) {
     const int reach = is_lamp(r) ? static_cast<int>(std::ceil(glow_reach * pixel_of(e))) + 1 : 2;
     return box.adjusted(-reach, -reach, reach, reach);
@@ -72,7 +64,7 @@ void take_in_panel(eye& e, game& g) {
         for (const element_row& r : elements_of(s)) {
             element_state& state = at(g.p, r.id);
             if (state.touched && r.what != kind::entry)
-                e.changed += with_light(e, r, place(e, r, state));
+                e.changed += with_light(e, r, device_place(g.p, r.id, pixel_of(e), origin_of(e, s)));
             state.touched = false;
         }
 }
@@ -80,7 +72,7 @@ void take_in_panel(eye& e, game& g) {
 void paint_screen(canvas& c, const eye& e, const game& g, screen s) {
     for (const bool pictures_first : {true, false})
         for (const element_row& r : elements_of(s)) {
-            const QRect box = place(e, r, at(g.p, r.id));
+            const QRect box = device_place(g.p, r.id, pixel_of(e), origin_of(e, s));
             if ((r.what == kind::picture) == pictures_first && e.changed.intersects(with_light(e, r, box)))
                 draw_element(c, g.p, r.id, box, false);
         }

@@ -18,12 +18,6 @@ namespace {
 
 using namespace hustle;
 
-QRect scaled(const element_row& r, const element_state& state, double pixel) {
-    const auto at = [pixel](int twips) { return static_cast<int>(std::lround(twips / 15.0 * pixel)); };
-    return {QPoint(at(r.place.left), at(state.top)),
-            QPoint(at(r.place.left + r.place.width) - 1, at(state.top + r.place.height) - 1)};
-}
-
 QImage painted(const game& g, screen what, int width) {
     const panel& p = g.p;
     const double pixel = width / (row(what).width / 15.0);
@@ -43,7 +37,7 @@ QImage painted(const game& g, screen what, int width) {
     for (const bool pictures_first : {true, false})
         for (const element_row& r : elements_of(what))
             if ((r.what == kind::picture) == pictures_first)
-                desktop::draw_element(c, p, r.id, scaled(r, at(p, r.id), pixel), false);
+                desktop::draw_element(c, p, r.id, desktop::device_place(p, r.id, pixel, {}), false);
     return image;
 }
 

@@ -65,14 +65,7 @@ void screenview::measure() {
               static_cast<int>((whole.height() - height * scale) / 2)};
 }
 
-// The size does not hang on the place, so that one drawing serves all elements of one size.
-QRect screenview::device_rect(element e) const {
-    const hustle::rect& place = row(e).place;
-    const double twip = scale / twips_to_pixel;
-    const auto pixels = [twip](int twips) { return static_cast<int>(std::lround(twips * twip)); };
-    return {origin.x() + pixels(place.left), origin.y() + pixels(at(played.g.p, e).top),
-            std::max(1, pixels(place.width)), std::max(1, pixels(place.height))};
-}
+QRect screenview::device_rect(element e) const { return device_place(played.g.p, e, scale, origin); }
 
 QRect screenview::widget_rect(element e) const {
     const QRect device = device_rect(e);

@@ -1,4 +1,5 @@
 // The parts of the window that need no screen: its clock, its names and its letters.
+#include "art/art.h"
 #include "art/dotfont.h"
 #include "core/start.h"
 #include "desktop/session/clock.h"
@@ -7,7 +8,12 @@
 #include "screens/dispatch.h"
 #include "show/spokennames.h"
 
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace hustle::desktop {
 
@@ -84,6 +90,27 @@ TEST(Letters, HaveALookForEverySignOfTheMachine) {
         EXPECT_NE(glyph_of(letter).rows, unknown) << static_cast<unsigned>(letter);
     EXPECT_EQ(glyph_of(U'É').rows, glyph_of(U'E').rows);
     EXPECT_NE(glyph_of(U'O').rows, glyph_of(U'0').rows);
+}
+
+// One sees from afar where the light stands on the ring.
+TEST(Art, LitAndDarkSquaresAreToldApart) {
+    const auto luminance = [](art a) {
+        QImage image(64, 59, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        QSvgRenderer(QByteArray::fromStdString(svg(a))).render(&painter);
+        double sum = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const auto linear = [](int v) { return std::pow(v / 255.0, 2.2); };
+                const QRgb p = image.pixel(x, y);
+                sum += 0.2126 * linear(qRed(p)) + 0.7152 * linear(qGreen(p)) + 0.0722 * linear(qBlue(p));
+            }
+        return sum / (image.width() * image.height());
+    };
+    for (int n = 1; n <= 24; ++n)
+        EXPECT_GE((luminance(nth(art::boxlight1, n)) + 0.05) / (luminance(nth(art::boxdark1, n)) + 0.05), 2.5)
+            << n;
 }
 
 } // namespace

@@ -1,0 +1,33 @@
+#include "show/places.h"
+
+#include <algorithm>
+
+namespace hustle {
+
+namespace {
+
+using enum element;
+
+constexpr int row_height = 345;     // of a line in the table: none covers the next
+constexpr int hold_over_reel = 463; // pixels: as far from its reel's edge as the other two
+constexpr int on_the_bar = 7720;    // the middle of the board's bar, for its row of buttons
+
+constexpr element bar_buttons[] = {feature_collect,    feature_featurebutton,  feature_cashbutton,
+                                   feature_shotbutton, feature_exchangebutton, feature_stopfeature,
+                                   feature_startbutton};
+
+} // namespace
+
+rect seen_place(const panel& p, element e) {
+    rect place = row(e).place;
+    place.top = at(p, e).top;
+    if (e >= Highscore_one && e <= Highscore_ten)
+        place.height = row_height;
+    else if (e == hold3)
+        place.left = hold_over_reel * 15;
+    else if (std::find(std::begin(bar_buttons), std::end(bar_buttons), e) != std::end(bar_buttons))
+        place.top += on_the_bar - row(e).place.top;
+    return place;
+}
+
+} // namespace hustle
