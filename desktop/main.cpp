@@ -1,3 +1,5 @@
+#include "desktop/platform/places.h"
+#include "desktop/session/onlyone.h"
 #include "desktop/session/session.h"
 
 #include <QApplication>
@@ -72,6 +74,23 @@ int read_arguments(int count, char** arguments) {
     return -1;
 }
 
+// One program plays on the files of a folder. False where this one has nothing to do.
+bool settle_who_plays(hustle::desktop::only_one& one, hustle::desktop::session& session) {
+    using namespace hustle::desktop;
+    const QString folder = data_folder();
+    for (bool deaf = false; !claim_folder(one, folder); deaf = true)
+        switch (ask_second(deaf)) {
+        case second::to_front:
+            if (call_to_front(folder))
+                return false;
+            break;
+        case second::play_unsaved: session.world.saving = false; return true;
+        case second::leave: return false;
+        }
+    listen_for_calls(one, folder, [&session] { come_to_front(session); });
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -93,6 +112,9 @@ int main(int argc, char** argv) {
         session.view.reduced_flashing = *reduced_flashing;
         session.view.flashing_asked = true;
     }
+    hustle::desktop::only_one one;
+    if (!settle_who_plays(one, session))
+        return 0;
     hustle::desktop::start_session(session);
     const int result = session.g.p.over ? 0 : QApplication::exec();
     hustle::desktop::end_session(session);

@@ -60,11 +60,12 @@ bool write_all(const file_calls& calls, int file, std::string_view text) {
 }
 
 // The new file under its own name, complete and on the disk.
-bool write_new(const file_calls& calls, int folder, const std::string& name, std::string_view text) {
+bool write_new(const file_calls& calls, int folder, const std::string& name, std::string_view text,
+               bool flush = true) {
     handle file(calls,
                 calls.open(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
-    return file.is_open() && write_all(calls, file.number, text) && calls.flush(file.number) == 0 &&
-           file.close();
+    return file.is_open() && write_all(calls, file.number, text) &&
+           (!flush || calls.flush(file.number) == 0) && file.close();
 }
 
 int open_folder(const file_calls& calls, const std::string& folder) {
@@ -124,7 +125,7 @@ stored_text read_stored(const std::string& folder, const std::string& name) {
     // Without waiting: a pipe would hold the program until somebody writes to it.
     const handle file(system_calls, ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file.is_open())
-        return errno == ENOENT ? stored_text{} : stored_text{unreadable, {}, reason()};
+        return errno == ENOENT || errno == ENOTDIR ? stored_text{} : stored_text{unreadable, {}, reason()};
     struct stat what {};
     if (::fstat(file.number, &what) != 0)
         return {unreadable, {}, reason()};
@@ -177,7 +178,7 @@ std::string why_not_writable(const std::string& folder) {
     const std::string trial = std::string("trial") + coming;
     system_calls.remove(place.number, trial.c_str());
     std::string why;
-    if (!write_new(system_calls, place.number, trial, "can this folder be written to?\n"))
+    if (!write_new(system_calls, place.number, trial, "can this folder be written to?\n", false))
         why = reason();
     system_calls.remove(place.number, trial.c_str());
     return why;

@@ -45,7 +45,7 @@ std::string keep_aside(const std::string& folder, const std::string& name);
 // Removes what a save of this file left behind when it was killed.
 void sweep_stored(const std::string& folder, const std::string& name);
 
-// Whether new files can be written in a folder: empty, or why not.
+// Whether new files can be written in a folder: empty, or why not. It waits for no disk.
 std::string why_not_writable(const std::string& folder);
 
 } // namespace hustle::desktop

@@ -22,6 +22,7 @@
 #include <QTime>
 #include <QUrl>
 
+#include <cstdio>
 #include <random>
 
 namespace hustle::desktop {
@@ -83,6 +84,8 @@ void qtworld::midi(std::string_view command) {
 std::string qtworld::tune_path() { return (sounds + "/hustle.mid").toStdString(); }
 
 bool qtworld::box(const message& m) {
+    if (s->leaving)
+        return !m.yes_or_no;
     hold_machine hold(*s);
     QMessageBox box(box_parent());
     dress(box, text_of(m.title));
@@ -117,6 +120,8 @@ std::optional<std::string> qtworld::read(store file) {
     case stored_text::state::unreadable: break;
     }
     reason_not_to_touch(*this, file) = "it is there but cannot be read (" + found.why + ")";
+    if (s->leaving)
+        return {};
     hold_machine hold(*s);
     tell_unreadable(data, text_of(name(file)), text_of(found.why));
     hold.release(0);
@@ -125,6 +130,9 @@ std::optional<std::string> qtworld::read(store file) {
 
 // A save that fails can be tried again, and elsewhere, as long as the player wants.
 bool qtworld::write(store file, std::string_view text) {
+    if (!saving)
+        return true;
+    finish(s->saving); // what is being saved beside the game comes first
     std::string folder = folder_of(*this);
     std::string why = reason_not_to_touch(*this, file);
     for (;;) {
@@ -132,6 +140,10 @@ bool qtworld::write(store file, std::string_view text) {
             why = save_stored(folder, name_of(file), text);
         if (why.empty())
             return true;
+        if (s->leaving) {
+            std::fprintf(stderr, "hoardhustle: %s is not saved: %s\n", name(file).data(), why.c_str());
+            return false;
+        }
         hold_machine hold(*s);
         const auto next = ask_where_to_save(text_of(folder), text_of(name(file)), text_of(why));
         hold.release(0);
@@ -178,14 +190,28 @@ void qtworld::exit() { QCoreApplication::exit(0); }
 
 void prepare_world(qtworld& w) {
     w.data = data_folder();
-    for (const store file : {store::game_dat, store::hscore_dat})
-        sweep_stored(folder_of(w), name_of(file));
+    if (w.saving)
+        for (const store file : {store::game_dat, store::hscore_dat})
+            sweep_stored(folder_of(w), name_of(file));
     w.sounds = shipped_folder("sounds");
     w.state = qEnvironmentVariable("HUSTLE_SEED").toULongLong(&w.repeats);
     if (!w.repeats) {
         std::random_device chance;
         w.state = (static_cast<std::uint64_t>(chance()) << 32) | chance();
     }
+}
+
+bool may_write(const qtworld& w, store file) {
+    return w.saving && w.untouchable[static_cast<std::size_t>(file)].empty();
+}
+
+void tell_if_unwritable(qtworld& w) {
+    const std::string why = w.saving ? why_not_writable(folder_of(w)) : std::string();
+    if (why.empty())
+        return;
+    hold_machine hold(*w.s);
+    tell_no_place(w.data, text_of(why));
+    hold.release(0);
 }
 
 void open_ears(qtworld& w) {

@@ -15,7 +15,8 @@ struct session;
 
 struct qtworld : world {
     session* s = nullptr;
-    QString data; // folder of the two stored files
+    QString data;       // folder of the two stored files
+    bool saving = true; // false: played without saving
     // Why a stored file must not be written over; empty: it may be.
     std::array<std::string, 2> untouchable;
     QString sounds;           // folder of the waves and the tune
@@ -41,6 +42,10 @@ struct qtworld : world {
 
 // Finds the folders and the generator's first state: HUSTLE_SEED where it is set, else chance.
 void prepare_world(qtworld&);
+// Whether a stored file of ours may be written.
+bool may_write(const qtworld&, store);
+// Tells the player at the start where nothing can be saved.
+void tell_if_unwritable(qtworld&);
 // Opens the sound, once; called after the first painted frame.
 void open_ears(qtworld&);
 

@@ -1,6 +1,7 @@
 #include "desktop/session/savebox.h"
 
-#include <QApplication>
+#include "desktop/window/boxes.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -14,8 +15,8 @@ namespace {
 QString shown(const QString& folder) { return QDir::toNativeSeparators(folder); }
 
 void warn(const QString& text, const QString& more) {
-    QMessageBox box(QMessageBox::Warning, "Hoard Hustle", text, QMessageBox::Ok,
-                    QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Warning, {}, text, QMessageBox::Ok, box_parent());
+    dress(box, "Hoard Hustle");
     box.setInformativeText(more);
     box.exec();
 }
@@ -33,9 +34,24 @@ void tell_no_place(const QString& folder, const QString& why) {
          "The machine plays all the same. When it ends you can choose another folder for its two files.");
 }
 
+void note_unsaved(const QString& folder, const QString& why) {
+    auto* box = new QMessageBox(QMessageBox::Warning, {},
+                                QString("What you have won is not on the disk: %1.").arg(why),
+                                QMessageBox::Ok, box_parent());
+    dress(*box, "Hoard Hustle");
+    box->setInformativeText(
+        QString("game.dat could not be saved in %1. It is tried again after each play, and "
+                "at the end another folder can be chosen.")
+            .arg(shown(folder)));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->show();
+}
+
 std::string ask_where_to_save(const QString& folder, const QString& file, const QString& why) {
-    QMessageBox box(QMessageBox::Warning, "Hoard Hustle", QString("%1 is not saved: %2.").arg(file, why),
-                    QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Warning, {}, QString("%1 is not saved: %2.").arg(file, why),
+                    QMessageBox::NoButton, box_parent());
+    dress(box, "Hoard Hustle");
     box.setInformativeText(QString("It belongs in %1.").arg(shown(folder)));
     const QPushButton* const again = box.addButton("&Try Again", QMessageBox::AcceptRole);
     const QPushButton* const elsewhere = box.addButton("Save &Elsewhere...", QMessageBox::ActionRole);

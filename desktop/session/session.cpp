@@ -4,6 +4,7 @@
 
 #include "core/start.h"
 #include "desktop/platform/sound.h"
+#include "desktop/session/leaving.h"
 #include "desktop/window/geometry.h"
 #include "desktop/window/mainwindow.h"
 #include "desktop/window/viewmenu.h"
@@ -28,12 +29,18 @@ void arm(session& s) {
         static_cast<int>(std::clamp<qint64>(due - reading(s.clock, s.g.p, s.real.elapsed()), 0, 60000)));
 }
 
+void after_event(session& s) {
+    fill_in_name(s);
+    keep_ledgers(s);
+    refresh(s);
+    arm(s);
+}
+
 void deliver_due(session& s) {
     if (s.held > 0 || s.g.p.over)
         return;
     deliver(s.g, catch_up(s.clock, s.g.p, s.real.elapsed()));
-    refresh(s);
-    arm(s);
+    after_event(s);
 }
 
 // Splash: a bare picture. Any other: a window of its own that holds nothing up and stays above the
@@ -107,11 +114,14 @@ void after_first_frame(session& s) {
     }
     s.started = true;
     s.clock.behind = s.real.elapsed() - s.g.p.now;
+    begin_ledgers(s);
+    watch_for_the_end(s);
     open_ears(s.world);
     set_loudness(s);
     QApplication::setWindowIcon(program_icon());
     draw_ahead(s);
     arm(s);
+    tell_if_unwritable(s.world);
 }
 
 void draw_one(session& s) {
@@ -160,7 +170,22 @@ void set_loudness(session& s) {
     set_volume(s.view.muted || s.g.m.soundstate != setting::on ? 0 : s.view.volume);
 }
 
+void come_to_front(session& s) {
+    QWidget* top = QApplication::activeModalWidget();
+    if (top == nullptr && !is_main_pair(s.in_front))
+        top = s.side[static_cast<std::size_t>(s.in_front)];
+    if (top == nullptr)
+        top = s.window;
+    if (top == nullptr)
+        return;
+    top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
+    top->show();
+    top->raise();
+    top->activateWindow();
+}
+
 void end_session(session& s) {
+    finish(s.saving);
     if (s.window != nullptr && !s.window->isFullScreen())
         s.view.place = s.window->saveGeometry();
     save_view_settings(s.view);
@@ -179,8 +204,7 @@ void send(session& s, const input& in) {
     deliver(s.g, catch_up(s.clock, s.g.p, s.real.elapsed()));
     apply(s.g, in);
     settle(s.g);
-    refresh(s);
-    arm(s);
+    after_event(s);
 }
 
 void activated(session& s, screen what) {
@@ -223,6 +247,7 @@ void hold_machine::release(int counted) {
     --s.held;
     if (s.started)
         s.clock.behind += s.real.elapsed() - since - counted;
+    arm(s); // its tick may have come and gone meanwhile
 }
 
 } // namespace hustle::desktop

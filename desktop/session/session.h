@@ -5,7 +5,10 @@
 #pragma once
 
 #include "desktop/session/clock.h"
+#include "desktop/session/ledgers.h"
+#include "desktop/session/nameform.h"
 #include "desktop/session/qtworld.h"
+#include "desktop/session/saver.h"
 #include "desktop/window/viewsettings.h"
 #include "screens/dispatch.h"
 #include "show/stage.h"
@@ -30,11 +33,16 @@ struct session {
     machine_clock clock;
     int held = 0; // above 0 while a box or a blocking wait holds the machine
     bool started = false;
-    bool seen = false; // something has been painted
-    QTimer wake;       // the next tick
-    QTimer ahead;      // draws pictures that will be needed, one at a time
-    stage show;        // what moves beyond the panel
-    QTimer picture;    // the next picture of it
+    bool seen = false;    // something has been painted
+    bool leaving = false; // ended from outside: nothing is asked any more
+    QTimer wake;          // the next tick
+    QTimer ahead;         // draws pictures that will be needed, one at a time
+    stage show;           // what moves beyond the panel
+    QTimer picture;       // the next picture of it
+
+    kept_ledgers ledgers;
+    saver saving;
+    name_form name;
 
     mainwindow* window = nullptr;                 // of main and of the board
     std::array<screenview*, screen_count> side{}; // windows of the other screens, null while closed
@@ -45,6 +53,8 @@ struct session {
 void start_session(session&);
 // A view has been painted for the first time in this session: now the clock may start.
 void first_painted(session&);
+// Lets the player see it: the window in front, also where it was minimised.
+void come_to_front(session&);
 // Closes what is still open.
 void end_session(session&);
 

@@ -1,5 +1,6 @@
 #include "desktop/window/mainwindow.h"
 
+#include "desktop/session/leaving.h"
 #include "desktop/session/session.h"
 #include "desktop/window/hintline.h"
 #include "desktop/window/keys.h"
@@ -162,10 +163,10 @@ bool mainwindow::event(QEvent* event) {
     return QMainWindow::event(event);
 }
 
-// Only the machine's own way out ends the program; the board has none.
+// Only the machine's own way out ends the program.
 void mainwindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    send(played, {input::kind::close, shown_screen()});
+    ask_to_leave(played);
 }
 
 // Keys reach the machine whatever has the focus in its window.

@@ -35,6 +35,7 @@ view_settings load_view_settings() {
         flag("muted", view.muted);
         flag("full_screen", view.full_screen);
         view.volume = std::clamp(kept.value("volume", view.volume).toInt(), 0, 100);
+        view.player = kept.value("player").toString();
         view.place = kept.value("place").toByteArray();
     });
     return view;
@@ -49,6 +50,7 @@ void save_view_settings(const view_settings& view) {
         kept.setValue("muted", view.muted);
         kept.setValue("full_screen", view.full_screen);
         kept.setValue("volume", view.volume);
+        kept.setValue("player", view.player);
         kept.setValue("place", view.place);
     });
 }

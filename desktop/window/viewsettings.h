@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 namespace hustle::desktop {
 
@@ -14,6 +15,7 @@ struct view_settings {
     bool muted = false;
     int volume = 100; // percent of the loudest
     bool full_screen = false;
+    QString player;   // the name last given for a good score; empty: none yet
     QByteArray place; // size and place of the window; empty until it has been closed once
 };
 

@@ -1,0 +1,66 @@
+#include "desktop/session/onlyone.h"
+
+#include "desktop/window/boxes.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QLocalSocket>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace hustle::desktop {
+
+namespace {
+
+constexpr int answer_ms = 2000;
+
+// The same for all who play on one folder, and short enough for a socket.
+QString ear_name(const QString& folder) {
+    const QByteArray place = QDir(folder).canonicalPath().toUtf8();
+    return "hoardhustle-" + QCryptographicHash::hash(place, QCryptographicHash::Sha1).toHex().left(16);
+}
+
+} // namespace
+
+bool claim_folder(only_one& o, const QString& folder) {
+    o.lock = std::make_unique<QLockFile>(folder + "/hoardhustle.lock");
+    o.lock->setStaleLockTime(0); // never by its age: only with its process
+    return o.lock->tryLock(0) || o.lock->error() != QLockFile::LockFailedError;
+}
+
+void listen_for_calls(only_one& o, const QString& folder, const std::function<void()>& called) {
+    QLocalServer::removeServer(ear_name(folder)); // of one that was killed: the lock is ours
+    o.ear.setSocketOptions(QLocalServer::UserAccessOption);
+    QObject::connect(&o.ear, &QLocalServer::newConnection, &o.ear, [&o, called] {
+        while (QLocalSocket* const caller = o.ear.nextPendingConnection()) {
+            caller->write("here\n");
+            QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
+            called();
+        }
+    });
+    o.ear.listen(ear_name(folder));
+}
+
+bool call_to_front(const QString& folder) {
+    QLocalSocket voice;
+    voice.connectToServer(ear_name(folder));
+    return voice.waitForConnected(answer_ms) && voice.waitForReadyRead(answer_ms);
+}
+
+second ask_second(bool first_is_deaf) {
+    QMessageBox box(QMessageBox::Question, {}, "Hoard Hustle is open already.");
+    dress(box, "Hoard Hustle");
+    if (first_is_deaf)
+        box.setText("Hoard Hustle is open already, and does not answer.");
+    box.setInformativeText("Two machines cannot save into the same files. You can go to the one that is "
+                           "open, or play here without saving anything.");
+    const QPushButton* const front = box.addButton("&Go to It", QMessageBox::AcceptRole);
+    const QPushButton* const unsaved = box.addButton("&Play without Saving", QMessageBox::ActionRole);
+    box.setEscapeButton(box.addButton(QMessageBox::Cancel));
+    box.exec();
+    if (box.clickedButton() == front)
+        return second::to_front;
+    return box.clickedButton() == unsaved ? second::play_unsaved : second::leave;
+}
+
+} // namespace hustle::desktop

@@ -1,0 +1,222 @@
+// A session in its windows, without a screen: what the player has is kept whatever ends the program.
+#include "core/play.h"
+#include "core/start.h"
+#include "core/upward.h"
+#include "desktop/platform/stablefile.h"
+#include "desktop/session/leaving.h"
+#include "desktop/session/onlyone.h"
+#include "desktop/session/session.h"
+#include "desktop/window/mainwindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <thread>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace hustle::desktop {
+
+namespace {
+
+// A program of its own: its folder, its session, started until main is on the screen.
+struct program {
+    QTemporaryDir folder;
+    session s;
+    QStringList told;       // the boxes so far
+    QString button = "&OK"; // what is clicked in the next ones
+    QTimer hand;            // of a player who answers every box
+
+    program() {
+        qputenv("HUSTLE_DATA", folder.path().toUtf8());
+        s.view.flashing_asked = true;
+        QObject::connect(&hand, &QTimer::timeout, &hand, [this] { answer(); });
+        hand.start(20);
+    }
+    ~program() { end_session(s); }
+
+    void answer() {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr)
+            return;
+        told << box->text();
+        for (QAbstractButton* b : box->buttons())
+            if (b->text() == button)
+                return b->click();
+        box->reject();
+    }
+    void start() {
+        start_session(s);
+        until([this] { return s.window != nullptr && s.started && is_loaded(s.g.p, screen::main); });
+    }
+    // Runs the windows until it is so, or the program has ended.
+    template <class Test> void until(const Test& so) {
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+            if (so())
+                QCoreApplication::exit();
+        });
+        look.start(5);
+        QApplication::exec();
+    }
+    void until_over() {
+        until([this] { return s.g.p.over; });
+    }
+    std::string stored(const char* name) const { return read_stored(folder.path().toStdString(), name).text; }
+};
+
+TEST(Session, LeavesOnASignalLikeAPlayerWhoClosesEveryWindow) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        program p;
+        p.s.view.player = "ANNA";
+        p.start();
+        p.s.g.m.bank = 50;
+        ::raise(signal);
+        p.until_over();
+        machine read;
+        ASSERT_TRUE(read_table_text(read, p.stored("hscore.dat"))) << signal;
+        EXPECT_EQ(read.hiscore[0], 50);
+        EXPECT_EQ(read.hiname[0], "           ANNA");
+        EXPECT_TRUE(read_game_text(read, p.stored("game.dat")));
+    }
+}
+
+TEST(Session, LeavesAlsoWhileABoxAsks) {
+    program p;
+    p.start();
+    p.hand.stop(); // nobody answers
+    QTimer::singleShot(50, [] { ::raise(SIGTERM); });
+    send(p.s, {input::kind::press, screen::main, element::transfer}); // nothing in the bank: a box
+    p.until_over();
+    machine read;
+    EXPECT_TRUE(read_game_text(read, p.stored("game.dat")));
+}
+
+TEST(Session, SavesTheLedgersAfterEachPlayAndAnOptionAtOnce) {
+    program p;
+    p.start();
+    apply(p.s.g, {input::kind::press, screen::main, element::start});
+    keep_ledgers(p.s);
+    finish(p.s.saving);
+    EXPECT_EQ(p.stored("game.dat"), "") << "a play that runs is not saved";
+    apply(p.s.g, {input::kind::press, screen::main, element::sreelspin});
+    keep_ledgers(p.s);
+    finish(p.s.saving);
+    machine read;
+    ASSERT_TRUE(read_game_text(read, p.stored("game.dat")));
+    EXPECT_EQ(read.reelspeed, 2);
+    for (int i = 0; i < 100'000 && machine_busy(p.s.g); ++i)
+        deliver(p.s.g, p.s.g.p.now + 10);
+    keep_ledgers(p.s);
+    finish(p.s.saving);
+    EXPECT_EQ(p.stored("game.dat"), game_text(p.s.g.m));
+    EXPECT_GT(p.s.g.m.moneyin, 100);
+}
+
+TEST(Session, TellsAnUnreadableFileAndLeavesIt) {
+    program p;
+    QDir(p.folder.path()).mkdir("game.dat");
+    p.button = "&Do Without";
+    p.start();
+    ASSERT_EQ(p.told.size(), 1);
+    EXPECT_TRUE(p.told[0].contains("game.dat is there but cannot be read")) << p.told[0].toStdString();
+    EXPECT_FALSE(may_write(p.s.world, store::game_dat));
+    ask_to_leave(p.s);
+    p.until_over();
+    EXPECT_TRUE(p.told.at(1).contains("game.dat is not saved")) << p.told[1].toStdString();
+    EXPECT_TRUE(QDir(p.folder.filePath("game.dat")).exists());
+    EXPECT_NE(p.stored("hscore.dat"), "");
+}
+
+TEST(Session, TellsAtTheStartThatNothingCanBeSavedAndTriesAgainAtTheEnd) {
+    program p;
+    const QString place = p.folder.filePath("games");
+    QFile in_the_way(place);
+    ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly));
+    qputenv("HUSTLE_DATA", place.toUtf8());
+    p.start();
+    p.until([&] { return !p.told.isEmpty(); });
+    EXPECT_TRUE(p.told.at(0).contains("Nothing can be saved")) << p.told[0].toStdString();
+    p.hand.stop();
+    QTimer repair;
+    QObject::connect(&repair, &QTimer::timeout, &repair, [&] { // while the box asks
+        if (QApplication::activeModalWidget() == nullptr)
+            return;
+        in_the_way.remove();
+        QDir().mkdir(place);
+        p.button = "&Try Again";
+        p.answer();
+    });
+    repair.start(20);
+    ask_to_leave(p.s);
+    p.until_over();
+    EXPECT_TRUE(p.told.at(1).contains("game.dat is not saved")) << p.told[1].toStdString();
+    EXPECT_NE(p.stored("games/game.dat"), "");
+    EXPECT_NE(p.stored("games/hscore.dat"), "");
+}
+
+TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {
+    program p;
+    p.start();
+    load_screen(p.s.g, screen::feature);
+    settle(p.s.g);
+    refresh(p.s);
+    p.button = "&No";
+    p.s.window->close();
+    ASSERT_EQ(p.told, QStringList{"Leave, and lose this game?"});
+    EXPECT_FALSE(p.s.g.p.over);
+    const auto then = p.s.g.p.now;
+    p.until([&] { return p.s.g.p.now > then + 100; }); // the machine goes on
+    p.button = "&Yes";
+    p.s.window->close();
+    p.until_over();
+    EXPECT_NE(p.stored("game.dat"), "");
+}
+
+TEST(Session, IsTheOnlyOneOnItsFiles) {
+    const QTemporaryDir folder;
+    const pid_t child = ::fork();
+    if (child == 0) { // claims the folder and is killed
+        only_one one;
+        ::_exit(claim_folder(one, folder.path()) ? ::kill(::getpid(), SIGKILL) : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+
+    only_one first, second;
+    ASSERT_TRUE(claim_folder(first, folder.path())) << "the lock outlived its process";
+    EXPECT_FALSE(claim_folder(second, folder.path()));
+    EXPECT_FALSE(call_to_front(folder.path())) << "nobody listens yet";
+    bool called = false;
+    listen_for_calls(first, folder.path(), [&] { called = true; });
+    bool answered = false;
+    std::thread caller([&] { answered = call_to_front(folder.path()); });
+    while (!called)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+    caller.join();
+    EXPECT_TRUE(answered);
+}
+
+} // namespace
+
+} // namespace hustle::desktop
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    qputenv("HUSTLE_SEED", "1");
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName("hoardhustle");
+    QApplication::setQuitOnLastWindowClosed(false);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
