@@ -26,7 +26,10 @@ std::int64_t reading(const machine_clock& clock, const panel& p, std::int64_t re
 std::int64_t catch_up(machine_clock& clock, const panel& p, std::int64_t real) {
     const std::int64_t now = reading(clock, p, real);
     std::int64_t due = 0;
-    if (!next_due(p, due) || now - due <= patience(p))
+    if (!next_due(p, due))
+        return now;
+    due = std::max(due, p.now); // what fell due during a wait of the machine's own is not late
+    if (now - due <= patience(p))
         return now;
     clock.behind += now - due;
     return due;

@@ -16,8 +16,7 @@ void fill_in_name(session& s) {
     s.name.open = open;
     if (fresh && !s.view.player.isEmpty()) {
         const std::string name = s.view.player.toStdString();
-        apply(s.g, {input::kind::type, screen::Entername, name_box, 0, name});
-        settle(s.g);
+        feed(s, {input::kind::type, screen::Entername, name_box, 0, name});
     } else if (open && !fresh) {
         const QString name = QString::fromStdString(at(s.g.p, name_box).text);
         if (!name.trimmed().isEmpty())

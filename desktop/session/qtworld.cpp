@@ -66,7 +66,9 @@ QMessageBox::Icon icon_of(message::mark look) {
 int qtworld::draw(int n) {
     if (!repeats)
         state += static_cast<std::uint64_t>(QTime::currentTime().msecsSinceStartOfDay());
-    return splitmix_draw(state, n);
+    const int result = splitmix_draw(state, n);
+    record_draw(s->record, result);
+    return result;
 }
 
 void qtworld::play(sound wave) {
@@ -84,8 +86,12 @@ void qtworld::midi(std::string_view command) {
 std::string qtworld::tune_path() { return (sounds + "/hustle.mid").toStdString(); }
 
 bool qtworld::box(const message& m) {
-    if (s->leaving)
+    const bool told_of_save = std::exchange(unsaved, false); // a replay's files never fail
+    if (s->leaving) {
+        if (!told_of_save)
+            record_answer(s->record, m, false);
         return !m.yes_or_no;
+    }
     hold_machine hold(*s);
     QMessageBox box(box_parent());
     dress(box, text_of(m.title));
@@ -101,7 +107,10 @@ bool qtworld::box(const message& m) {
     }
     const int answer = box.exec();
     hold.release(0);
-    return m.yes_or_no ? answer == QMessageBox::Yes : true;
+    const bool yes = answer == QMessageBox::Yes;
+    if (!told_of_save)
+        record_answer(s->record, m, yes);
+    return !m.yes_or_no || yes;
 }
 
 void qtworld::wait(int ms) {
@@ -142,13 +151,13 @@ bool qtworld::write(store file, std::string_view text) {
             return true;
         if (s->leaving) {
             std::fprintf(stderr, "hoardhustle: %s is not saved: %s\n", name(file).data(), why.c_str());
-            return false;
+            return !(unsaved = true);
         }
         hold_machine hold(*s);
         const auto next = ask_where_to_save(text_of(folder), text_of(name(file)), text_of(why));
         hold.release(0);
         if (next.empty())
-            return false;
+            return !(unsaved = true);
         // The place that must not be touched may be chosen again: it is refused again.
         why = next == folder_of(*this) ? reason_not_to_touch(*this, file) : std::string();
         folder = next;

@@ -15,8 +15,9 @@ struct session;
 
 struct qtworld : world {
     session* s = nullptr;
-    QString data;       // folder of the two stored files
-    bool saving = true; // false: played without saving
+    QString data;         // folder of the two stored files
+    bool unsaved = false; // a save has failed, and the machine is about to tell
+    bool saving = true;   // false: played without saving
     // Why a stored file must not be written over; empty: it may be.
     std::array<std::string, 2> untouchable;
     QString sounds;           // folder of the waves and the tune

@@ -10,6 +10,7 @@
 #include "desktop/window/viewmenu.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTime>
 
 #include <algorithm>
@@ -19,7 +20,8 @@ namespace hustle::desktop {
 
 namespace {
 
-constexpr int ahead_ms = 8; // between two pictures that are drawn ahead
+constexpr int flush_ms = 1000; // of the record
+constexpr int ahead_ms = 8;    // between two pictures that are drawn ahead
 
 void arm(session& s) {
     std::int64_t due = 0;
@@ -36,10 +38,27 @@ void after_event(session& s) {
     arm(s);
 }
 
+// Delivers what is due by the clock.
+void bring_up(session& s) {
+    const std::int64_t until = catch_up(s.clock, s.g.p, s.real.elapsed());
+    while (!is_loaded(s.g.p, screen::main) && deliver_one(s.g, until))
+        if (is_loaded(s.g.p, screen::main))
+            record_boot(s.record, s.g);
+    record_ticks(s.record, until);
+    deliver(s.g, until);
+}
+
+void write_record(session& s) {
+    if (!s.view.recording)
+        end_recording(s.record);
+    if (s.held == 0)
+        flush_recording(s.record, s.g);
+}
+
 void deliver_due(session& s) {
     if (s.held > 0 || s.g.p.over)
         return;
-    deliver(s.g, catch_up(s.clock, s.g.p, s.real.elapsed()));
+    bring_up(s);
     after_event(s);
 }
 
@@ -152,8 +171,13 @@ void start_session(session& s) {
     s.ahead.setInterval(ahead_ms);
     QObject::connect(&s.ahead, &QTimer::timeout, &s.ahead, [&s] { draw_one(s); });
     start_motion(s);
-    reset_game(s.g, QTime::currentTime().msecsSinceStartOfDay());
+    const int clock_ms = QTime::currentTime().msecsSinceStartOfDay();
+    reset_game(s.g, clock_ms);
     boot(s.g);
+    if (s.world.saving && s.view.recording)
+        begin_recording(s.record, QFile::encodeName(s.world.data).toStdString(), s.g, clock_ms);
+    QObject::connect(&s.second, &QTimer::timeout, &s.second, [&s] { write_record(s); });
+    s.second.start(flush_ms);
     settle(s.g);
     refresh(s);
 }
@@ -186,6 +210,8 @@ void come_to_front(session& s) {
 
 void end_session(session& s) {
     finish(s.saving);
+    flush_recording(s.record, s.g);
+    end_recording(s.record);
     if (s.window != nullptr && !s.window->isFullScreen())
         s.view.place = s.window->saveGeometry();
     save_view_settings(s.view);
@@ -198,12 +224,18 @@ void end_session(session& s) {
     close_sound();
 }
 
+void feed(session& s, const input& in) {
+    record_time(s.record, s.g);
+    apply(s.g, in);
+    settle(s.g);
+    record_input(s.record, s.g, in);
+}
+
 void send(session& s, const input& in) {
     if (s.held > 0 || s.g.p.over || !s.started)
         return;
-    deliver(s.g, catch_up(s.clock, s.g.p, s.real.elapsed()));
-    apply(s.g, in);
-    settle(s.g);
+    bring_up(s);
+    feed(s, in);
     after_event(s);
 }
 

@@ -8,6 +8,7 @@
 #include "desktop/session/ledgers.h"
 #include "desktop/session/nameform.h"
 #include "desktop/session/qtworld.h"
+#include "desktop/session/recorder.h"
 #include "desktop/session/saver.h"
 #include "desktop/window/viewsettings.h"
 #include "screens/dispatch.h"
@@ -43,6 +44,8 @@ struct session {
     kept_ledgers ledgers;
     saver saving;
     name_form name;
+    recorder record;
+    QTimer second; // between two flushes of the record
 
     mainwindow* window = nullptr;                 // of main and of the board
     std::array<screenview*, screen_count> side{}; // windows of the other screens, null while closed
@@ -58,6 +61,8 @@ void come_to_front(session&);
 // Closes what is still open.
 void end_session(session&);
 
+// Applies one input that is the window's own, at the time that the machine has reached.
+void feed(session&, const input&);
 // Brings the machine up to the clock and applies one input. Nothing happens while it is held.
 void send(session&, const input&);
 // A window has been activated by the player.

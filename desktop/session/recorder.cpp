@@ -1,0 +1,152 @@
+#include "desktop/session/recorder.h"
+
+#include "core/start.h"
+#include "panel/sheet.h"
+#include "script/dump.h"
+#include "script/lexer.h"
+
+#include <cstdio>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace hustle::desktop {
+
+namespace {
+
+constexpr int draws_on_a_line = 32;
+
+void tell(recorder& r, std::string_view first, std::string_view second = {}, std::string_view third = {}) {
+    r.text += first;
+    for (const std::string_view word : {second, third})
+        if (!word.empty())
+            r.text.append(" ").append(word);
+    r.text += '\n';
+}
+
+void tell_file(recorder& r, store which, std::string_view text) {
+    tell(r, "file", name(which));
+    for (const char c : text)
+        if (c != '\r')
+            r.text += c;
+    tell(r, "end");
+}
+
+// The draws and the answers of an event stand before it.
+void tell_chances(recorder& r) {
+    if (r.drawn > 0)
+        r.draws += '\n';
+    r.text.append(r.draws).append(r.answers);
+    r.draws.clear();
+    r.answers.clear();
+    r.drawn = 0;
+}
+
+std::string full(element e) { return std::string(row(row(e).where).name) + "." + std::string(row(e).name); }
+
+void tell_input(recorder& r, const input& in) {
+    const std::string_view where = row(in.where).name;
+    switch (in.what) {
+    case input::kind::press: return tell(r, "press", full(in.on));
+    case input::kind::key: return tell(r, "key", std::to_string(in.code), where);
+    case input::kind::type: return tell(r, "type", full(in.on), script::quote(in.text));
+    case input::kind::close: return tell(r, "close", where);
+    case input::kind::show: return tell(r, "focus", where);
+    }
+}
+
+bool write_out(recorder& r) {
+    std::string_view rest = r.text;
+    while (!rest.empty()) {
+        const ssize_t done = ::write(r.file, rest.data(), rest.size());
+        if (done <= 0)
+            return false;
+        rest.remove_prefix(static_cast<std::size_t>(done));
+    }
+    r.written += r.text.size();
+    r.text.clear();
+    return true;
+}
+
+} // namespace
+
+void begin_recording(recorder& r, const std::string& folder, game& g, std::int64_t clock_ms) {
+    const std::string path = folder + "/" + session_name;
+    std::rename(path.c_str(), (folder + "/" + session_before).c_str());
+    r.file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (r.file < 0)
+        return;
+    r.names = std::make_unique<script::names>(g);
+    tell(r, "# A session of Hoard Hustle", version_text, "as a panel script.");
+    tell_file(r, store::game_dat, game_text(g.m));
+    tell_file(r, store::hscore_dat, table_text(g.m));
+    char seconds[32];
+    std::snprintf(seconds, sizeof seconds, "%.3f", static_cast<double>(clock_ms) / 1000);
+    tell(r, "clock", seconds);
+}
+
+void record_draw(recorder& r, int result) {
+    if (r.file < 0)
+        return;
+    r.draws.append(r.drawn == 0 ? "draws " : " ").append(std::to_string(result));
+    if (++r.drawn == draws_on_a_line) {
+        r.draws += '\n';
+        r.drawn = 0;
+    }
+}
+
+void record_answer(recorder& r, const message& m, bool yes) {
+    if (r.file >= 0)
+        r.answers.append("answer ").append(!m.yes_or_no ? "ok" : yes ? "yes" : "no").append("\n");
+}
+
+void record_boot(recorder& r, const game& g) {
+    if (r.file < 0)
+        return;
+    tell_chances(r);
+    tell(r, "boot");
+    r.since = r.until = g.p.now;
+    r.stands = true;
+}
+
+void record_ticks(recorder& r, std::int64_t until) { r.until = until; }
+
+void record_time(recorder& r, const game& g) {
+    if (r.file < 0 || !r.stands)
+        return;
+    tell_chances(r);
+    if (r.until > r.since)
+        tell(r, "run", std::to_string(r.until - r.since));
+    r.since = r.until = g.p.now;
+}
+
+void record_input(recorder& r, const game& g, const input& in) {
+    if (r.file < 0 || !r.stands)
+        return;
+    tell_chances(r);
+    tell_input(r, in);
+    r.since = r.until = g.p.now;
+}
+
+void flush_recording(recorder& r, const game& g) {
+    if (r.file < 0 || !r.stands)
+        return;
+    record_time(r, g);
+    if (r.text.empty())
+        return;
+    tell(r, "hash #", script::hash_text(*r.names));
+    const bool full = r.written + r.text.size() > longest_session;
+    if (full)
+        r.text = "# The session goes on, and is longer than is written down.\n";
+    if (!write_out(r) || full)
+        end_recording(r);
+}
+
+void end_recording(recorder& r) {
+    if (r.file >= 0)
+        ::close(r.file);
+    r.file = -1;
+    r.names.reset();
+}
+
+} // namespace hustle::desktop
