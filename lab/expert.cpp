@@ -85,9 +85,12 @@ element gamble_for_value(const sight& s, const memory&) {
 }
 
 element best_ladder(const sight& s) {
-    const single cash = cash_value(s.cash_height());
-    const single feature = feature_worth[s.feature_height()];
-    const single shots = s.shots() >= 3 ? cash_value(std::min(s.shots() - 1, 9)) : 0;
+    const auto worth = [&s](element button, single value) { return s.live(button) ? value : 0; };
+    const single cash = worth(feature_cashbutton, cash_value(s.cash_height()));
+    const single feature =
+        worth(feature_featurebutton, feature_worth[static_cast<std::size_t>(s.feature_height())]);
+    const single shots =
+        worth(feature_shotbutton, s.shots() >= 3 ? cash_value(std::min(s.shots() - 1, 9)) : 0);
     if (std::max({cash, feature, shots}) < good_enough)
         return feature_startbutton;
     if (feature >= cash && feature >= shots)

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 
 namespace hustle::lab {
 
@@ -121,6 +122,7 @@ void sit_down(seat& s, const terms& t, int machine, int stream, std::string* scr
     s.world.files[0] = first_file(t);
     s.world.state = seed_of(t, machine, stream);
     s.world.asked = false;
+    s.world.queued = {};
     s.script = script;
     if (script != nullptr)
         tell_start(s, *script);

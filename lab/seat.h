@@ -8,15 +8,23 @@
 #include "panel/stillworld.h"
 
 #include <array>
-#include <memory>
+#include <span>
 #include <string>
 
 namespace hustle::lab {
 
 // Boxes are answered with Yes: a player who has pressed New means it.
 struct labworld final : stillworld {
-    bool asked = false; // since it was last set to false
+    bool asked = false;          // since it was last set to false
+    std::span<const int> queued; // the next draws, before the generator
 
+    int draw(int n) override {
+        if (queued.empty())
+            return splitmix_draw(state, n);
+        const int k = queued.front();
+        queued = queued.subspan(1);
+        return k;
+    }
     bool box(const message& m) override {
         asked |= m.yes_or_no;
         return true;

@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# One run, whatever carries it: any number of threads, and shares played by GNU parallel, give the
+# same bytes. A lost, doubled, broken-off, damaged or foreign share is named and refused.
+set -euo pipefail
+lab=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+fail() { echo "shares: $*" >&2; exit 1; }
+refused() { # words that the message must hold, then the command
+    local words=$1
+    shift
+    if "$@" >out.txt 2>err.txt; then fail "not refused: $*"; fi
+    grep -q -- "$words" err.txt || fail "'$words' is not in: $(cat err.txt)"
+}
+
+run=(run --policy holder --machines 7 --plays 1500 --seed 11 --warmup 50)
+"$lab" "${run[@]}" --threads 1 --out one.json >/dev/null 2>progress.txt
+grep -q $'\r' progress.txt && fail "a progress bar in a pipe"
+"$lab" "${run[@]}" --threads 3 --out three.json >/dev/null 2>&1
+cmp one.json three.json
+cmp one.csv three.csv
+
+carry=(bash -c 'for n in 1 2 3; do "$0" "$@" --shard "$n/3" --out "$n.json"; done' "$lab" "${run[@]}")
+if command -v parallel >/dev/null; then
+    carry=(parallel --will-cite --sshlogin : "$lab" "${run[@]}" --threads 1 --shard "{}/3" --out "$work/{}.json" ::: 1 2 3)
+fi
+"${carry[@]}" >/dev/null 2>&1
+"$lab" merge 3.json 1.json 2.json --out merged.json >/dev/null
+cmp one.json merged.json
+cmp one.csv merged.csv
+
+refused 'missing: 2/3' "$lab" merge 1.json 3.json --out x.json
+refused 'share 1/3 is there twice' "$lab" merge 1.json 2.json 1.json --out x.json
+"$lab" "${run[@]}" --seed 12 --shard 2/3 --out other.json >/dev/null 2>&1
+refused 'another run' "$lab" merge 1.json other.json 3.json --out x.json
+sed 's/"machine":4/"machine":5/' 2.json >damaged.json
+refused 'damaged' "$lab" merge 1.json damaged.json 3.json --out x.json
+head -c 4000 2.json >short.json
+refused 'cut short' "$lab" merge 1.json short.json 3.json --out x.json
+echo '{"a": 1}' >foreign.json
+refused 'not a file of the lab' "$lab" report foreign.json
+refused 'cannot be opened' "$lab" report nowhere.json
+refused 'other terms' "$lab" "${run[@]}" --seed 3 --out one.json --resume
+refused 'no share' "$lab" run --shard 4/3
+refused 'policy' "$lab" run --policy nobody
+refused 'plays' "$lab" run --plays 0
+[ ! -e x.json ] || fail "a refused merge has left a file"
+
+"$lab" report one.json merged.json --out page.html
+grep -q '"policy":"holder"' page.html || fail "the page has no figures"
+grep -Eq '(src|href)=' page.html && fail "the page needs something else"
+exit 0
