@@ -60,8 +60,8 @@ TEST(Seat, CountsPlaysWhoseEveryDrawIsKnown) {
     EXPECT_EQ(c.times[static_cast<std::size_t>(feature::gamble_opened)], 1U);
     EXPECT_EQ(c.wins[0], 9U);
     EXPECT_EQ(c.wins[1], 1U);
-    EXPECT_EQ(c.band_plays[2],
-              6U); // pcent 79.8 to 79.2 before the pound, and above 80 until it has sunk again
+    EXPECT_EQ(c.band_plays[2], 9U);   // 75 to 80
+    EXPECT_EQ(c.band_plays[3], 1U);   // 81 of 101 is more
     EXPECT_EQ(c.look_banked[2], 0U);  // after 3 plays
     EXPECT_EQ(c.look_banked[3], 20U); // after 5
 }
