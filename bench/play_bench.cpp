@@ -72,8 +72,9 @@ BENCHMARK(quiet_play);
 void one_tick(benchmark::State& state) {
     stillworld w;
     const auto g = booted(w);
+    timer which{};
     for (auto _ : state)
-        deliver_one(*g, g->p.now + 1000);
+        deliver_one(*g, g->p.now + 1000, which);
 }
 BENCHMARK(one_tick);
 

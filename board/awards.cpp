@@ -56,7 +56,7 @@ bool wait_is_over(game& g, timer wait) {
     return true;
 }
 
-void wait_and_spin(game& g, timer wait, void (*spin)(game&)) {
+void wait_and_spin(game& g, timer wait, handler spin) {
     if (!wait_is_over(g, wait))
         return;
     spin(g);

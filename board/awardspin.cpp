@@ -85,7 +85,7 @@ struct award_row {
     word name;
     std::span<const prize_row> rows;
     count machine::*drawn;
-    void (*end)(game&); // after the third reel
+    handler end; // after the third reel
 };
 constexpr award_row awards[] = {
     {award::winstreak, run_rows, &machine::awarddraw, end_winstreak},

@@ -59,21 +59,4 @@ void judgegamble(game&);
 void gamblewin(game&);
 void jackpotrepeater(game&);
 
-// Ticks.
-void feature_butflash(game&);
-void feature_exchange_timer(game&);
-void feature_exchange_effect(game&);
-void feature_hitimer(game&);
-void feature_win_timer(game&);
-void feature_gambletimer(game&);
-void feature_cashwin_effect(game&);
-void feature_spin_dice(game&);
-void feature_movetimer(game&);
-void feature_cashadd(game&);
-void feature_featureadd(game&);
-void feature_shotadd(game&);
-void feature_exittimer(game&);
-void feature_bonus_win(game&);
-void feature_flashing_lights(game&);
-
 } // namespace hustle

@@ -1,6 +1,7 @@
 // The buttons of the board: their looks, their flashing, and when a press of them counts.
 #include "board/boardlamps.h"
 #include "board/board.h"
+#include "panel/sheet.h"
 
 namespace hustle {
 
@@ -43,20 +44,6 @@ const lamp& flash_look(const game& g, const lamp& l) {
 constexpr element turn_buttons[] = {feature_startbutton, feature_featurebutton, feature_cashbutton,
                                     feature_shotbutton};
 
-constexpr timer chains[] = {
-    timer::feature_exchange_effect,   timer::feature_spin_dice,        timer::feature_movetimer,
-    timer::feature_cashadd,           timer::feature_featureadd,       timer::feature_exittimer,
-    timer::feature_bonus_win,         timer::feature_flashing_lights,  timer::feature_start_sevenspinner,
-    timer::feature_start_pickawin,    timer::feature_start_winspins,   timer::feature_start_winstreak,
-    timer::feature_start_reelskill,   timer::feature_start_letsspin,   timer::feature_start_shots,
-    timer::feature_start_skillstop,   timer::feature_start_randomstop, timer::feature_start_fastcash,
-    timer::feature_start_shock,       timer::feature_start_thin_ice,   timer::feature_start_boost,
-    timer::feature_start_bombfeature, timer::feature_shots_timer,      timer::feature_skillstoptimer,
-    timer::feature_randomstop,        timer::feature_moneybelttimer,   timer::feature_fastcash,
-    timer::feature_shock_timer,       timer::feature_shock_trueskill,  timer::feature_yesorno,
-    timer::feature_pickaladder,       timer::feature_savedbyextra,
-};
-
 } // namespace
 
 void show_dark(game& g, element button) { set_picture(g.p, button, lamp_of(button).dark); }
@@ -91,11 +78,6 @@ void feature_enablebuttons(game& g) {
         enable(g.p, button);
 }
 
-bool board_chain_runs(const game& g) {
-    for (const timer chain : chains)
-        if (is_running(g.p, chain))
-            return true;
-    return false;
-}
+bool board_chain_runs(const game& g) { return chain_runs(g.p, chain::board); }
 
 } // namespace hustle

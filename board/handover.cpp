@@ -27,7 +27,7 @@ void tell_nothing(game&) {}
 struct handover_row {
     std::string_view title; // at step 1
     std::string_view text;  // at the hand-over
-    void (*tell)(game&);
+    handler tell;
     timer here, there; // the timer of the board and that of main
 };
 constexpr handover_row sevenspinner = {"      * SEVEN SPINNER *", "      * SEVEN SPINNER *", tell_luckysevens,

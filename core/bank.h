@@ -7,8 +7,6 @@ namespace hustle {
 
 void figuresline(game&); // the resting text: bank at the left, credits at the right
 void payline(game&);     // bank, win and credits during a payout
-void wintobank(game&);   // ticks
-void banktocredits(game&);
 void transferpress(game&);
 void newgamepress(game&);
 void startnewgame(game&);

@@ -187,6 +187,9 @@ struct table_fields {
     count buttonflash = 0;
 };
 
+struct game;
+using handler = void (*)(game&); // one event's: of a press, a tick, a change of focus
+
 struct game {
     machine m;
     board b;

@@ -44,7 +44,7 @@ void bad_hold(game& g, int which) {
 }
 
 void holdpress(game& g, int which) {
-    constexpr void (*nudge[])(game&) = {nudgereel1, nudgereel2, nudgereel3};
+    constexpr handler nudge[] = {nudgereel1, nudgereel2, nudgereel3};
     machine& m = g.m;
     const bool offered = m.holdsoffered == flag::yes;
     if (offered && (m.holdsbarred == truth::is || m.badholdmade == truth::is)) {

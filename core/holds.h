@@ -10,8 +10,5 @@ void holdpress2(game&);
 void holdpress3(game&);
 void cancelpress(game&);
 void pairhold(game&);
-void ilikeit(game&); // ticks
-void dontholdany(game&);
-void letemspin(game&);
 
 } // namespace hustle

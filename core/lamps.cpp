@@ -1,4 +1,5 @@
-#include "core/lamps.h"
+// The button lamps of main in play.
+#include "core/ticks.h"
 
 #include "core/reels.h"
 

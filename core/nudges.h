@@ -9,9 +9,5 @@ void offernudges(game&);
 void nudgereel1(game&);
 void nudgereel2(game&);
 void nudgereel3(game&);
-void addnudges(game&); // ticks
-void nudgetimer(game&);
-void pseudo_nudges(game&);
-void skill_nudges(game&);
 
 } // namespace hustle

@@ -5,28 +5,13 @@
 #include "core/reels.h"
 #include "core/upward.h"
 #include "core/wins.h"
-
-#include <algorithm>
+#include "panel/sheet.h"
 
 namespace hustle {
 
 namespace {
 
 using enum element;
-
-// While one of these runs, something is being played: a press of `start` would be a second play
-// on the same step counters.
-constexpr timer busy_timers[] = {
-    timer::reelspin1,      timer::reelspin2,         timer::reelspin3,          timer::spinreel1,
-    timer::spinreel2,      timer::spinreel3,         timer::start_spin_in,      timer::feature_start,
-    timer::wintobank,      timer::addnudges,         timer::nudgetimer,         timer::pseudo_nudges,
-    timer::skill_nudges,   timer::numberrun,         timer::trailclimb,         timer::trailskill,
-    timer::trailstopper,   timer::selector,          timer::start_bonus,        timer::start_superbonus,
-    timer::bonus_timer,    timer::bonusnumbers,      timer::start_repeatchance, timer::yes_no,
-    timer::rollem,         timer::start_reelskill,   timer::reelskill,          timer::reelskill2,
-    timer::reelskill3,     timer::start_luckysevens, timer::start_winstreak,    timer::start_pickawin,
-    timer::start_winspins,
-};
 
 int held_reels(const machine& m) {
     return (m.reel1held == flag::yes) + (m.reel2held == flag::yes) + (m.reel3held == flag::yes);
@@ -73,8 +58,7 @@ bool machine_busy(const game& g) {
     const panel& p = g.p;
     if (is_loaded(p, screen::feature))
         return true;
-    if (std::any_of(std::begin(busy_timers), std::end(busy_timers),
-                    [&](timer t) { return is_running(p, t); }))
+    if (chain_runs(p, chain::machine))
         return true;
     // Under a held trail a run may still end in a Bonus or a full trail.
     if (is_running(p, timer::numbers2) && is_visible(p, trailheld))

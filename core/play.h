@@ -10,7 +10,6 @@ void resetplay(game&);
 void darkbuttons(game&);
 void clearholds(game&);
 void afterreels(game&);         // the last reel of a normal play has stopped
-void start_spin_in(game&);      // tick: the free respin's delay
 bool machine_busy(const game&); // a press of `start` changes nothing
 
 // pcent from moneyout and moneyin: plain, and only where both are above 0.

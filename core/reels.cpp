@@ -79,13 +79,13 @@ void next_reel(game& g, int stopped) {
 }
 
 void draw_step(game& g, int which) {
-    constexpr void (*draws[])(game&) = {drawreel1, drawreel2, drawreel3};
+    constexpr handler draws[] = {drawreel1, drawreel2, drawreel3};
     draws[which - 1](g);
     next_reel(g, which);
 }
 
 void forced_step(game& g, int which) {
-    constexpr void (*steps[])(game&) = {forcedstep1, forcedstep2, forcedstep3};
+    constexpr handler steps[] = {forcedstep1, forcedstep2, forcedstep3};
     steps[which - 1](g);
 }
 

@@ -47,8 +47,4 @@ void showforced1(game&);
 void showforced2(game&);
 void showforced3(game&);
 
-void reelspin1(game&); // ticks
-void reelspin2(game&);
-void reelspin3(game&);
-
 } // namespace hustle

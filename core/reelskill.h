@@ -5,10 +5,6 @@
 
 namespace hustle {
 
-void start_reelskill(game&); // ticks
-void reelskill(game&);
-void reelskill2(game&);
-void reelskill3(game&);
 void reelskill_stop1(game&); // hold1 while reelskill runs
 void reelskill_stop3(game&); // hold3 while reelskill2 runs
 

@@ -12,7 +12,6 @@ namespace hustle {
 void reset_game(game&, std::int64_t clock);
 
 void software_load(game&); // reads both files, opens the tune
-void software_Timer1(game&);
 void main_load(game&);
 void main_focus(game&);
 void exitroutine(game&);

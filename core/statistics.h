@@ -6,10 +6,8 @@
 
 namespace hustle {
 
-void statistics_Timer1(game&); // tick: the flash of the two buttons
-void statistics_Timer2(game&); // tick: the figures
-void statistics_back(game&);   // Picture1
-void statistics_reset(game&);  // Picture2
-void statistics_blur(game&);   // the screen has been covered: it closes
+void statistics_back(game&);  // Picture1
+void statistics_reset(game&); // Picture2
+void statistics_blur(game&);  // the screen has been covered: it closes
 
 } // namespace hustle

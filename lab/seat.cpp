@@ -4,7 +4,7 @@
 
 #include "core/start.h"
 #include "panel/sheet.h"
-#include "screens/dispatch.h"
+#include "screens/events.h"
 
 #include <algorithm>
 #include <limits>
@@ -69,7 +69,6 @@ void press(seat& s) {
     s.player.pressed_at = s.g.p.now;
     before_press(s);
     apply(s.g, {.what = input::kind::press, .on = e});
-    settle(s.g);
     if (s.script != nullptr)
         tell_press(s, s.press_at, e);
     after_press(s, e);

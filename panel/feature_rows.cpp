@@ -115,6 +115,8 @@ constexpr element_row rows[] = {
 };
 // clang-format on
 
+static_assert(in_order(rows, element::feature_background, element::statistics_background));
+
 } // namespace
 
 std::span<const element_row> feature_rows() { return rows; }

@@ -84,6 +84,8 @@ constexpr element_row rows[] = {
 };
 // clang-format on
 
+static_assert(in_order(rows, element::software_Image1, element::feature_background));
+
 } // namespace
 
 std::span<const element_row> main_rows() { return rows; }

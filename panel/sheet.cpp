@@ -59,6 +59,13 @@ const element_row& row(element e) {
 
 const timer_row& row(timer t) { return sheet::timer_rows()[static_cast<std::size_t>(t)]; }
 
+bool chain_runs(const panel& p, chain what) {
+    for (int i = 0; i < p.queued; ++i)
+        if (row(p.queue[static_cast<std::size_t>(i)].what).keeps == what)
+            return true;
+    return false;
+}
+
 std::span<const element_row> elements_of(screen s) {
     const std::span<const element_row> table = s <= screen::main      ? sheet::main_rows()
                                                : s == screen::feature ? sheet::feature_rows()

@@ -50,12 +50,16 @@ struct element_row {
     colour fore = 0; // of a line: the stored colour of its lit dots
 };
 
+// What a running timer keeps from a second start.
+enum class chain : std::uint8_t { nothing, machine, board };
+
 struct timer_row {
     timer id;
     screen where;
     std::string_view name; // without the screen: "butflash"
     int interval;          // ms
     bool at_start;         // runs from the load of its screen
+    chain keeps;
 };
 
 struct menu_row {
@@ -68,6 +72,8 @@ const element_row& row(element);
 const timer_row& row(timer);
 const screen_row& row(screen);
 std::span<const menu_row> menu_rows();
+// True while a timer runs that keeps the machine, or the board.
+bool chain_runs(const panel&, chain);
 // The elements of one screen, from the back to the front.
 std::span<const element_row> elements_of(screen);
 

@@ -111,6 +111,8 @@ constexpr element_row rows[] = {
 };
 // clang-format on
 
+static_assert(in_order(rows, element::statistics_background, element::total));
+
 } // namespace
 
 std::span<const element_row> side_rows() { return rows; }

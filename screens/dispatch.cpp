@@ -2,6 +2,7 @@
 
 #include "core/upward.h"
 #include "panel/sheet.h"
+#include "screens/events.h"
 #include "screens/handlers.h"
 #include "screens/sidescreens.h"
 
@@ -52,9 +53,7 @@ void unload_screen(game& g, screen s) {
     close_screen(g.p, s);
 }
 
-void boot(game& g) { load_screen(g, screen::software); }
-
-bool apply(game& g, const input& in) {
+bool apply_alone(game& g, const input& in) {
     if (g.p.over)
         return false;
     switch (in.what) {
@@ -91,17 +90,28 @@ void settle(game& g) {
         run_focus(g, event);
 }
 
-bool deliver_one(game& g, std::int64_t until) {
-    timer tick{};
-    if (g.p.over || !take_tick(g.p, until, tick))
+void boot(game& g) {
+    load_screen(g, screen::software);
+    settle(g);
+}
+
+bool apply(game& g, const input& in) {
+    const bool taken = apply_alone(g, in);
+    settle(g);
+    return taken;
+}
+
+bool deliver_one(game& g, std::int64_t until, timer& which) {
+    if (g.p.over || !take_tick(g.p, until, which))
         return false;
-    run_tick(g, tick);
+    run_tick(g, which);
     settle(g);
     return true;
 }
 
 void deliver(game& g, std::int64_t until) {
-    while (deliver_one(g, until)) {
+    timer tick{};
+    while (deliver_one(g, until, tick)) {
     }
     if (!g.p.over)
         g.p.now = std::max(g.p.now, until);

@@ -2,7 +2,9 @@
 // that join a screen's rows to their handlers stand behind it.
 //
 // A front end: `reset_game`, then `boot`; then, again and again, `apply` for each input and
-// `deliver` up to the machine's clock. After each of these the waiting changes of focus have run.
+// `deliver` up to the machine's clock. Each of these runs the changes of focus that it has caused
+// before it returns. Who tells each event apart, as scripts do, finds the single ones in
+// screens/events.h.
 #pragma once
 
 #include "core/game.h"
@@ -29,25 +31,14 @@ struct input {
 // Start-up: the splash is loaded and shown; it hands over to main by its timer.
 void boot(game&);
 
-// Applies one input; false when it was ignored (screen not loaded, element hidden, disabled or
-// with no action). The changes of focus that it causes stay waiting.
+// Applies one input, and the changes of focus that it causes; false when it was ignored (screen not
+// loaded, element hidden, disabled or with no action).
 bool apply(game&, const input&);
-// Runs one tick's handler.
-void run_tick(game&, timer);
-// Runs one change of focus; false when the screen has no such handler or is gone.
-bool run_focus(game&, const focus_event&);
-// Runs all waiting changes of focus.
-void settle(game&);
 
-// Delivers every tick due at `until` or before, in order, each followed by the changes of focus,
-// and leaves the clock at `until` or, after a blocking wait, later.
+// Delivers every tick due at `until` or before, in order, each with the changes of focus that it
+// causes, and leaves the clock at `until` or, after a blocking wait, later.
 void deliver(game&, std::int64_t until);
-// Delivers one tick due at `until` or before; false when there is none.
-bool deliver_one(game&, std::int64_t until);
-
-// The press handler of an element; null where it has none.
-using handler = void (*)(game&);
-handler press_handler(element);
-handler tick_handler(timer);
+// Delivers one tick due at `until` or before and names it in `which`; false when there is none.
+bool deliver_one(game&, std::int64_t until, timer& which);
 
 } // namespace hustle

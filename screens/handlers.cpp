@@ -4,12 +4,12 @@
 #include "board/reelawards.h"
 #include "core/bank.h"
 #include "core/holds.h"
-#include "core/lamps.h"
 #include "core/nudges.h"
 #include "core/play.h"
 #include "core/reels.h"
 #include "core/reelskill.h"
 #include "core/start.h"
+#include "core/ticks.h"
 #include "core/upward.h"
 #include "panel/sheet.h"
 #include "screens/sidescreens.h"
@@ -86,28 +86,10 @@ constexpr press_row presses[] = {
     {element::About_cmdSysInfo,    About_sysinfo},
 };
 
-// In the order of the enumerators: main's timers bear the names of their handlers.
-constexpr std::array<handler, timer_count> ticks = {
-    software_Timer1,
-    reelspin1, reelspin2, reelspin3, start_spin_in, init_trail_timer, ilikeit, dontholdany, letemspin,
-    addnudges, nudgetimer, pseudo_nudges, skill_nudges, wintobank, banktocredits,
-    reelskill, reelskill2, reelskill3, start_reelskill,
-    numbers2, numberrun, trailclimb, trailskill, trailstopper, trail_flash, selector,
-    start_bonus, start_superbonus, bonus_timer, bonusnumbers, feature_start, start_repeatchance, yes_no, rollem,
-    spinreel1, spinreel2, spinreel3, start_luckysevens, start_winstreak, start_pickawin, start_winspins,
-    startattract, attracthold, flashtimer, scrolltimer, butflash,
-
-    feature_butflash, feature_exchange_timer, feature_exchange_effect, feature_hitimer, feature_win_timer,
-    feature_gambletimer, feature_cashwin_effect, feature_spin_dice, feature_movetimer, feature_cashadd,
-    feature_featureadd, feature_shotadd, feature_exittimer, feature_bonus_win, feature_flashing_lights,
-    feature_start_sevenspinner, feature_start_pickawin, feature_start_winspins, feature_start_winstreak,
-    feature_start_reelskill, feature_start_letsspin, feature_start_shots, feature_shots_timer,
-    feature_start_skillstop, feature_skillstoptimer, feature_start_randomstop, feature_randomstop,
-    feature_moneybelttimer, feature_start_fastcash, feature_fastcash, feature_start_shock, feature_shock_timer,
-    feature_shock_trueskill, feature_start_thin_ice, feature_start_boost, feature_start_bombfeature,
-    feature_pickaladder, feature_savedbyextra, feature_yesorno, feature_invincibletimer,
-
-    statistics_Timer1, statistics_Timer2, Highscore_flashscore, Highscore_Timer1, Entername_Timer1,
+constexpr handler ticks[] = {
+#define TIMER(name, where, script, ms, start, keeps) name,
+#include "panel/timers.def"
+#undef TIMER
 };
 
 // The keyboard of main: a key takes no other path than the mouse on its button.

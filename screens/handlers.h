@@ -1,7 +1,7 @@
 // The tables that join screens, elements and timers to their handlers.
 #pragma once
 
-#include "screens/dispatch.h"
+#include "core/game.h"
 
 namespace hustle {
 
@@ -14,6 +14,9 @@ struct screen_routines {
     handler close = nullptr;  // its window's own close
 };
 const screen_routines& routines(screen);
+
+handler tick_handler(timer);
+handler press_handler(element); // null where it has none
 
 // A key on a screen; false where it means nothing or its button is disabled.
 bool keypress(game&, screen, int code);

@@ -17,7 +17,7 @@ template <page which> void browse(game& g) { g.w.browse(which); }
 
 struct command_row {
     element entry;
-    void (*act)(game&);
+    handler act;
 };
 // clang-format off
 constexpr command_row commands[] = {

@@ -8,15 +8,12 @@ namespace hustle {
 
 void Entername_load(game&);
 void Entername_submit(game&);
-void Entername_Timer1(game&);
 void Highscore_load(game&);
 void sorttable(game&);
 void showtable(game&);
 void Highscore_exit(game&);   // Picture1
 void Highscore_return(game&); // Picture2
 void Highscore_reset(game&);  // Picture3
-void Highscore_flashscore(game&);
-void Highscore_Timer1(game&);
 
 void reelguide_load(game&);
 void wintable_load(game&);
@@ -25,10 +22,5 @@ void About_ok(game&);
 void About_sysinfo(game&);
 // The action of a menu entry of main, or of a click on one of its reels.
 void menupress(game&, element entry);
-
-void startattract(game&); // ticks of main
-void attracthold(game&);
-void flashtimer(game&);
-void scrolltimer(game&);
 
 } // namespace hustle

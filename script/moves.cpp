@@ -85,7 +85,6 @@ std::span<const word> award_words() { return awards; }
 void make(game& g, monkeyworld& w, const move& m) {
     w.yes = m.what == deed::press_yes;
     row(m.what).make(g, m.value);
-    settle(g);
 }
 
 std::string written(std::uint64_t seed, std::span<const move> moves) {

@@ -3,6 +3,7 @@
 #include "core/start.h"
 #include "core/upward.h"
 #include "panel/sheet.h"
+#include "screens/events.h"
 
 #include <algorithm>
 #include <bit>
@@ -132,7 +133,7 @@ void session::settle() {
 void session::apply(std::string_view told, const input& in) {
     event(told, [&] {
         // A key that means nothing is an event all the same; one on a closed screen is not.
-        return hustle::apply(g, in) || (in.what == input::kind::key && is_loaded(g.p, in.where));
+        return apply_alone(g, in) || (in.what == input::kind::key && is_loaded(g.p, in.where));
     });
 }
 

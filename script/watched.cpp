@@ -87,11 +87,9 @@ void watched::press(const move& p) {
 void watched::run(int ms) {
     const std::int64_t until = g.p.now + ms;
     timer which{};
-    while (fault.empty() && take_tick(g.p, until, which)) {
+    machine before = money(g);
+    while (fault.empty() && deliver_one(g, until, which)) {
         ++ticks;
-        const machine before = money(g);
-        run_tick(g, which);
-        settle(g);
         check_tick(which, before);
         sign(signature, static_cast<std::uint64_t>(which));
         sign(signature, static_cast<std::uint64_t>(g.p.now));
@@ -99,6 +97,7 @@ void watched::run(int ms) {
             sign(signature, std::bit_cast<std::uint32_t>(value));
         if (all)
             sign_all();
+        before = money(g);
     }
     g.p.now = std::max(g.p.now, until);
     if (g.p.now - last_play > patience)

@@ -131,7 +131,7 @@ void show_result(game& g) {
     step_on(g);
 }
 
-constexpr std::array<void (*)(game&), 5> phases = {announce, run_belt, run_on, align, show_result};
+constexpr std::array<handler, 5> phases = {announce, run_belt, run_on, align, show_result};
 
 } // namespace
 

@@ -150,9 +150,7 @@ void shock_boost(game& g) {
     start_timer(g.p, timer::feature_start_boost);
 }
 
-using action = void (*)(game&);
-
-constexpr std::array<action, 8> shock_outcomes = {
+constexpr std::array<handler, 8> shock_outcomes = {
     shock_gameover,    // 1 Game Over
     shock_lost,        // 2 Caught
     shock_bomb,        // 3 Xtra Bomb
@@ -173,7 +171,7 @@ void stop_shock(game& g) {
 
 struct stop_row {
     std::string_view award;
-    action act;
+    handler act;
 };
 
 constexpr stop_row stops[] = {

@@ -1,4 +1,5 @@
 #include "panel/sheet.h"
+#include "screens/handlers.h"
 #include "tests/testgame.h"
 
 #include <gtest/gtest.h>
@@ -7,24 +8,6 @@
 
 namespace hustle {
 namespace {
-
-TEST(Sheet, RowsStandInTheOrderOfTheirNames) {
-    std::set<std::string> names;
-    for (std::size_t i = 0; i < element_count; ++i) {
-        const element_row& r = row(static_cast<element>(i));
-        EXPECT_EQ(static_cast<std::size_t>(r.id), i) << r.name;
-        EXPECT_TRUE(names.insert(std::string(row(r.where).name) + "." + std::string(r.name)).second)
-            << r.name;
-    }
-    for (std::size_t i = 0; i < timer_count; ++i) {
-        const timer_row& r = row(static_cast<timer>(i));
-        EXPECT_EQ(static_cast<std::size_t>(r.id), i) << r.name;
-        EXPECT_GT(r.interval, 0) << r.name;
-        EXPECT_NE(tick_handler(r.id), nullptr) << r.name;
-    }
-    EXPECT_EQ(name(sound::like_it), "like-it.wav");
-    EXPECT_EQ(name(nth(art::boxlight1, 24)), "boxlight24");
-}
 
 TEST(Sheet, EveryButtonHasAnActionAndEveryElementLiesOnItsScreen) {
     for (const screen_row& s : screen_rows())
@@ -103,7 +86,6 @@ TEST(Screens, TheFrontPassesToWhatLiesBeneath) {
     EXPECT_EQ(front(t.g.p), screen::reelguide);
     EXPECT_FALSE(is_loaded(t.g.p, screen::statistics));
     apply(t.g, {.what = input::kind::close, .where = screen::reelguide});
-    settle(t.g);
     EXPECT_EQ(front(t.g.p), screen::main);
     EXPECT_EQ(t.g.m.awardwait, 0) << "main has come to the front again";
 }

@@ -35,12 +35,8 @@ struct SideScreens : testing::Test {
         reset_game(g, 0);
         boot(g);
         deliver(g, 350);
-        settle(g);
     }
-    void press(element e) {
-        apply(g, {.what = input::kind::press, .on = e});
-        settle(g);
-    }
+    void press(element e) { apply(g, {.what = input::kind::press, .on = e}); }
 };
 
 } // namespace

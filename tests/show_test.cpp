@@ -10,7 +10,7 @@
 #include "core/wins.h"
 #include "panel/sheet.h"
 #include "panel/stillworld.h"
-#include "screens/dispatch.h"
+#include "screens/events.h"
 #include "show/hints.h"
 #include "show/spokennames.h"
 #include "show/stage.h"
@@ -280,7 +280,6 @@ TEST_F(Show, HintsHoldInLongPlay) {
             apply(g, {input::kind::press, screen::feature, board_buttons[draw(g, 6) - 1]});
         if (g.m.credits <= 0.1F && g.m.bank <= 0.1F && says("Game, New"))
             startnewgame(g);
-        settle(g);
         deliver(g, g.p.now + 300);
         visits += !board && is_loaded(g.p, screen::feature);
     }

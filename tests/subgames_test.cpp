@@ -4,6 +4,7 @@
 // The statistic is chi-square; its bound is the 99.9 percent point for the degrees of freedom.
 // The walks remember where they stood, so that samples are taken far enough apart to be independent.
 #include "core/start.h"
+#include "core/ticks.h"
 #include "panel/stillworld.h"
 #include "subgames/belts.h"
 #include "subgames/subgames.h"

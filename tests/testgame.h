@@ -40,11 +40,7 @@ struct testgame {
         run(350);
     }
     void run(int ms) { deliver(g, g.p.now + ms); }
-    bool press(element e) {
-        const bool taken = apply(g, {.what = input::kind::press, .on = e});
-        settle(g);
-        return taken;
-    }
+    bool press(element e) { return apply(g, {.what = input::kind::press, .on = e}); }
 };
 
 } // namespace hustle

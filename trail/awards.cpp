@@ -122,8 +122,7 @@ void take_numberrun(game& g) {
     set_picture(g.p, stopper, art::stoppicdark);
 }
 
-using award_action = void (*)(game&);
-constexpr std::array<award_action, 11> actions = {
+constexpr std::array<handler, 11> actions = {
     take_trailskill, take_selector, take_trailclimb, take_respin,       take_trailboost, take_superboost,
     take_nudges,     take_addagain, take_spinawin,   take_trailstopper, take_numberrun,
 };

@@ -33,7 +33,7 @@ template <timer figure> void nudge_stop(game& g) {
 
 struct stop_row {
     timer running;
-    void (*act)(game&);
+    handler act;
 };
 constexpr stop_row nudge_stops[] = {
     {timer::skill_nudges, nudge_stop<timer::skill_nudges>},

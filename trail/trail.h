@@ -20,15 +20,6 @@ void trailholdchance(game&);
 // Lamp 9 has been reached: `win` becomes at least 1.00 and the run-up to the board begins.
 void fulltrail(game&);
 
-void numbers2(game&); // ticks
-void numberrun(game&);
-void trail_flash(game&);
-void init_trail_timer(game&);
-void trailclimb(game&);
-void trailskill(game&);
-void trailstopper(game&);
-void selector(game&);
-
 // What a press of the stop button does to each.
 void climb_stop(game&);
 void trailskill_stop(game&);

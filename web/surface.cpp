@@ -52,7 +52,6 @@ int take(const std::string& line, const input& in) {
         return 0;
     before_input(h.world.past);
     const bool taken = apply(h.g, in);
-    settle(h.g);
     after_input(h.world.past, line, h.g.p.now);
     return taken ? 1 : 0;
 }
@@ -112,11 +111,11 @@ void hh_boot(double clock, int at_once) {
         record_seed(h.world.past, h.world.state);
     reset_game(h.g, static_cast<std::int64_t>(clock));
     boot(h.g);
+    timer tick{};
     if (at_once != 0)
         while (!is_loaded(h.g.p, screen::main) &&
-               deliver_one(h.g, std::numeric_limits<std::int64_t>::max())) {
+               deliver_one(h.g, std::numeric_limits<std::int64_t>::max(), tick)) {
         }
-    settle(h.g);
     note_boot();
 }
 
@@ -126,7 +125,8 @@ void hh_run(double until) {
     here& h = machine_here();
     panel& p = h.g.p;
     const auto target = static_cast<std::int64_t>(until);
-    while (p.now <= target && deliver_one(h.g, target))
+    timer tick{};
+    while (p.now <= target && deliver_one(h.g, target, tick))
         note_boot();
     if (!p.over)
         p.now = std::max(p.now, target);

@@ -41,7 +41,8 @@ void after_event(session& s) {
 // Delivers what is due by the clock.
 void bring_up(session& s) {
     const std::int64_t until = catch_up(s.clock, s.g.p, s.real.elapsed());
-    while (!is_loaded(s.g.p, screen::main) && deliver_one(s.g, until))
+    timer tick{};
+    while (!is_loaded(s.g.p, screen::main) && deliver_one(s.g, until, tick))
         if (is_loaded(s.g.p, screen::main))
             record_boot(s.record, s.g);
     record_ticks(s.record, until);
@@ -178,7 +179,6 @@ void start_session(session& s) {
         begin_recording(s.record, QFile::encodeName(s.world.data).toStdString(), s.g, clock_ms);
     QObject::connect(&s.second, &QTimer::timeout, &s.second, [&s] { write_record(s); });
     s.second.start(flush_ms);
-    settle(s.g);
     refresh(s);
 }
 
@@ -227,7 +227,6 @@ void end_session(session& s) {
 void feed(session& s, const input& in) {
     record_time(s.record, s.g);
     apply(s.g, in);
-    settle(s.g);
     record_input(s.record, s.g, in);
 }
 

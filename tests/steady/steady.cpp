@@ -35,7 +35,6 @@ int play_on(hustle::game& g, int plays) {
              {element::hold1, element::stopper, element::feature_collect, element::feature_stopfeature,
               element::feature_cashbutton, element::start})
             apply(g, {.what = input::kind::press, .on = button});
-        settle(g);
         if (g.m.credits < before) {
             ++made;
             idle = 0;
