@@ -76,7 +76,10 @@ element get_on(const sight& s, memory& m) {
         return hold1;
     if (s.shows(hold3, art::stoppiclight))
         return hold3;
-    return s.has_credit() ? no_press : find_money(s, m);
+    if (!s.has_credit())
+        return find_money(s, m);
+    // No lamp tells what to do: under the attract mode the stops of Reel Skill do not flash.
+    return out_of_patience(s, m) ? nth(hold1, splitmix_draw(m.dice, 3)) : no_press;
 }
 
 move starter(const sight& s, memory& m) { return {get_on(s, m)}; }

@@ -59,10 +59,10 @@ void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& sh
         ->check(CLI::Range(5, 100'000))
         ->capture_default_str();
     run->add_option("--moneyin", o.t.moneyin, "Pounds in the machine's money-in ledger at the start")
-        ->check(CLI::Range(1, 1'000'000))
+        ->check(CLI::Range(1, 10'000'000))
         ->capture_default_str();
     run->add_option("--moneyout", o.t.moneyout, "Pounds in its money-out ledger at the start")
-        ->check(CLI::Range(1, 1'000'000))
+        ->check(CLI::Range(1, 10'000'000))
         ->capture_default_str();
     run->add_option("--shard", shard, "Play one share of the machines: 2/8 is the second of eight");
     CLI::Option* out = run->add_option("--out", o.out, "Result as JSON; the machines as CSV stand beside it");

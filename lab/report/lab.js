@@ -230,19 +230,28 @@ const hustleLab = (() => {
     const windows = (root, results) => {
         const draw = (whole) => results.flatMap((r, i) => r.figures.windows.filter((w) => w.count >= 2).map((w) => {
             const width = whole < 640 ? whole : Math.floor(whole / 2) - 8; // two side by side where there is room
-            const p = plot(width, 230, {left: 46, right: 20, top: 42, bottom: 48},
+            const p = plot(width, 240, {left: 46, right: 20, top: 50, bottom: 48},
                 `${nameOf(r)}: returns of windows of ${count(w.plays)} plays`);
-            const reach = 3.2 * Math.max(w.spread, w.unsteered), from = Math.max(0, w.mean - reach), to = w.mean + reach;
-            const share = (b) => 100 * b.count / w.count, curve = (v) => 50 * normal(v, w.mean, w.unsteered);
-            const high = Math.max(...w.returns.map(share), curve(w.mean)) * 1.08;
+            const reach = 3.2 * Math.max(w.spread, w.unsteered);
+            // Bars of half a percent, or of so many halves that no more than about fifty stand side by side.
+            const bar = [0.5, 1, 2, 5, 10].find((b) => 2 * reach / b <= 50) || 20;
+            const from = Math.max(0, Math.floor((w.mean - reach) / bar) * bar), to = Math.ceil((w.mean + reach) / bar) * bar;
+            const bars = new Map();
+            for (const b of w.returns) {
+                const left = Math.floor(b.from / bar) * bar;
+                bars.set(left, (bars.get(left) || 0) + b.count);
+            }
+            const share = (n) => 100 * n / w.count, curve = (v) => 100 * bar * normal(v, w.mean, w.unsteered);
+            const high = Math.max(...[...bars.values()].map(share), curve(w.mean)) * 1.08;
             const x = linear(from, to, p.left, p.right), y = linear(0, high, p.bottom, p.top);
             yAxis(p, y, niceTicks(0, high, 4), " %", "of the windows");
             xAxis(p, x, niceTicks(from, to, width < 500 ? 4 : 8), (t) => t + " %", "return of the window");
             p.root.append(label(4, 14, `${nameOf(r)}: ${count(w.count)} windows of ${count(w.plays)} plays`, {class: "rowname"}));
-            for (const b of w.returns.filter((one) => one.from >= from && one.from + 0.5 <= to))
-                p.root.append(svg("rect", {class: "bar", x: x(b.from), width: Math.max(x(b.from + 0.5) - x(b.from) - 0.5, 0.6), y: y(share(b)),
-                    height: p.bottom - y(share(b)), fill: colourOf(i),
-                    "data-tip": `${fixed(share(b))} % of the windows return ${fixed(b.from, 1)} to ${fixed(b.from + 0.5, 1)} %`}));
+            for (const [left, n] of bars)
+                if (left >= from && left + bar <= to)
+                    p.root.append(svg("rect", {class: "bar", x: x(left), width: Math.max(x(left + bar) - x(left) - 0.5, 0.6),
+                        y: y(share(n)), height: p.bottom - y(share(n)), fill: colourOf(i),
+                        "data-tip": `${fixed(share(n))} % of the windows return ${left} to ${left + bar} %`}));
             const points = [];
             for (let n = 0; n <= 120; ++n) {
                 const v = from + (to - from) * n / 120;
