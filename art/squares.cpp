@@ -15,7 +15,7 @@ void coin_icon(pen& p, bool) {
 
 void feature_icon(pen& p, bool on) {
     path(p, star(0, 0, 13, 5.6, 5), {.fill = gold(p), .stroke = on ? "#5a2c02" : "#1a0c02", .width = 1.2});
-    path(p, star(0, -0.5, 7, 3, 5), {.fill = ink::white, .fill_opacity = 0.56});
+    path(p, star(0, -0.5, 7, 3, 5), {.fill = ink::white, .fill_opacity = 0.36});
 }
 
 void target_icon(pen& p, bool) {
@@ -125,6 +125,8 @@ void draw_square(pen& p, int which) {
     const bool on = which >= lit;
     const square_face& f = *ring[which % lit - 1];
     cap(p, {2, 2, 60, 54}, 7, f.glass, on, 2.5);
+    if (on)
+        box(p, 5, 5, 54, 48, 6, {.fill = ink::white, .fill_opacity = 0.2});
     const auto words = [&](std::string_view text, double y, double height) {
         write(p, text, 32, y, height,
               {.fill = on ? ink::white : std::string_view("#efe2c6"),
@@ -142,7 +144,7 @@ void draw_square(pen& p, int which) {
         f.icon(p, on);
     }
     if (!on) // an unlit square lies in shade, icon and all: one sees from afar where the light stands
-        box(p, 2, 2, 60, 54, 7, {.fill = "#08020c", .fill_opacity = 0.56});
+        box(p, 2, 2, 60, 54, 7, {.fill = "#08020c", .fill_opacity = 0.36});
     if (!f.amount.empty())
         write(p, f.amount, 19.5, 13.5, 17,
               {.fill = on ? ink::white : std::string_view("#ffe9b0"),

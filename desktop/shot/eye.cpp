@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iostream>
@@ -16,10 +17,16 @@ namespace {
 
 constexpr double twips_to_pixel = 15;
 
-double pixel_of(const eye& e) { return e.width / (row(screen::main).width / twips_to_pixel); }
+// The board is a little higher than main: as in the window it is shown as large as it fits.
+double pixel_of(const eye& e, screen s) {
+    const double by_width = e.width / (row(screen::main).width / twips_to_pixel);
+    if (s != screen::feature || e.image.isNull())
+        return by_width;
+    return std::min(by_width, e.image.height() / (row(s).height / twips_to_pixel));
+}
 
 QSize size_of(const eye& e, screen s) {
-    const double twip = pixel_of(e) / twips_to_pixel;
+    const double twip = pixel_of(e, s) / twips_to_pixel;
     return {static_cast<int>(std::lround(row(s).width * twip)),
             static_cast<int>(std::lround(row(s).height * twip))};
 }
@@ -30,12 +37,12 @@ QPoint origin_of(const eye& e, screen s) {
 }
 
 QRect with_light(const eye& e, const element_row& r, QRect box) {
-    const int reach = is_lamp(r) ? static_cast<int>(std::ceil(glow_reach * pixel_of(e))) + 1 : 2;
+    const int reach = is_lamp(r) ? static_cast<int>(std::ceil(glow_reach * pixel_of(e, r.where))) + 1 : 2;
     return box.adjusted(-reach, -reach, reach, reach);
 }
 
 QRect patch_rect(const eye& e, const patch& p) {
-    const double twip = pixel_of(e) / twips_to_pixel;
+    const double twip = pixel_of(e, p.where) / twips_to_pixel;
     const QPoint corner = origin_of(e, p.where);
     return QRectF(corner.x() + p.area.left * twip, corner.y() + p.area.top * twip, p.area.width * twip,
                   p.area.height * twip)
@@ -64,7 +71,7 @@ void take_in_panel(eye& e, game& g) {
         for (const element_row& r : elements_of(s)) {
             element_state& state = at(g.p, r.id);
             if (state.touched && r.what != kind::entry)
-                e.changed += with_light(e, r, device_place(g.p, r.id, pixel_of(e), origin_of(e, s)));
+                e.changed += with_light(e, r, device_place(g.p, r.id, pixel_of(e, s), origin_of(e, s)));
             state.touched = false;
         }
 }
@@ -72,7 +79,7 @@ void take_in_panel(eye& e, game& g) {
 void paint_screen(canvas& c, const eye& e, const game& g, screen s) {
     for (const bool pictures_first : {true, false})
         for (const element_row& r : elements_of(s)) {
-            const QRect box = device_place(g.p, r.id, pixel_of(e), origin_of(e, s));
+            const QRect box = device_place(g.p, r.id, pixel_of(e, s), origin_of(e, s));
             if ((r.what == kind::picture) == pictures_first && e.changed.intersects(with_light(e, r, box)))
                 draw_element(c, g.p, r.id, box, false);
         }
@@ -87,7 +94,7 @@ void paint(eye& e, const game& g) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(e.image.rect(), ground_colour());
     for (const screen s : e.painted) {
-        canvas c{painter, e.pictures, e.dots, e.lamps, e.strips, e.show, pixel_of(e), origin_of(e, s)};
+        canvas c{painter, e.pictures, e.dots, e.lamps, e.strips, e.show, pixel_of(e, s), origin_of(e, s)};
         paint_screen(c, e, g, s);
     }
 }
