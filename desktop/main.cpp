@@ -1,27 +1,17 @@
 #include "desktop/platform/places.h"
+#include "desktop/platform/stablefile.h"
 #include "desktop/session/onlyone.h"
 #include "desktop/session/session.h"
+#include "desktop/session/watch.h"
 
+#include <CLI/CLI.hpp>
 #include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <optional>
+#include <string>
 
 namespace {
-
-constexpr const char* help_text =
-    "Hoard Hustle: a simulation of a UK fruit machine with a 15 pound jackpot.\n"
-    "\n"
-    "  hoardhustle                     starts the machine\n"
-    "  hoardhustle --reduced-flashing  with no lamp flashing fast, from now on\n"
-    "  hoardhustle --full-flashing     with all lamps as the machine has them, from now on\n"
-    "  hoardhustle --version           tells the version\n"
-    "  hoardhustle --help              tells this\n"
-    "\n"
-    "HUSTLE_DATA=FOLDER  where game.dat and hscore.dat stand\n"
-    "HUSTLE_SEED=N       draws that repeat from run to run\n";
 
 constexpr const char* no_display =
     "Hoard Hustle needs a screen to play on, and there is none here.\n"
@@ -49,29 +39,50 @@ void tell_message(QtMsgType type, const QMessageLogContext&, const QString& text
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-// What the command line says of the settings; nothing where it says nothing.
-std::optional<bool> reduced_flashing;
+struct options {
+    bool reduced_flashing = false, full_flashing = false;
+    std::string watch; // a panel script; empty: the player plays
+};
 
 // Negative: go on and play. Otherwise the exit status.
-int read_arguments(int count, char** arguments) {
-    for (int i = 1; i < count; ++i) {
-        if (std::strcmp(arguments[i], "--version") == 0) {
-            std::printf("hoardhustle %s\n", hustle::version_text.data());
-            return 0;
-        }
-        if (std::strcmp(arguments[i], "--help") == 0) {
-            std::fputs(help_text, stdout);
-            return 0;
-        }
-        const bool reduced = std::strcmp(arguments[i], "--reduced-flashing") == 0;
-        if (reduced || std::strcmp(arguments[i], "--full-flashing") == 0) {
-            reduced_flashing = reduced;
-            continue;
-        }
-        std::fprintf(stderr, "hoardhustle: unknown argument %s; --help tells what there is\n", arguments[i]);
-        return 2;
+int read_arguments(options& to, int count, char** arguments) {
+    CLI::App app("Hoard Hustle: a simulation of a UK fruit machine with a 15 pound jackpot.", "hoardhustle");
+    app.set_version_flag("--version", "hoardhustle " + std::string(hustle::version_text));
+    auto* const reduced = app.add_flag("--reduced-flashing", to.reduced_flashing,
+                                       "No lamp is painted flashing fast, from now on");
+    app.add_flag("--full-flashing", to.full_flashing, "All lamps as the machine has them, from now on")
+        ->excludes(reduced);
+    app.add_option("--watch", to.watch, "Plays a panel script, as session.txt is one, to be watched")
+        ->type_name("SCRIPT")
+        ->check(CLI::ExistingFile);
+    app.footer("HUSTLE_DATA=FOLDER  where game.dat and hscore.dat stand\n"
+               "HUSTLE_SEED=N       draws that repeat from run to run");
+    try {
+        app.parse(count, arguments);
+    } catch (const CLI::ParseError& end) {
+        return app.exit(end) == 0 ? 0 : 2;
     }
     return -1;
+}
+
+// Plays a script in the window.
+int watch_a_script(hustle::desktop::session& session, const std::string& path) {
+    using namespace hustle::desktop;
+    const stored_text script = read_stored(".", path, longest_session);
+    if (script.what != stored_text::state::there) {
+        std::fprintf(stderr, "hoardhustle: %s cannot be read: %s\n", path.c_str(), script.why.c_str());
+        return 2;
+    }
+    watching watched;
+    watched.text = script.text;
+    watched.name = path;
+    session.world.saving = false;
+    open_session(session);
+    start_watching(session, watched);
+    const int result = QApplication::exec();
+    stop_watching(watched);
+    end_session(session);
+    return result;
 }
 
 // One program plays on the files of a folder. False where this one has nothing to do.
@@ -94,7 +105,8 @@ bool settle_who_plays(hustle::desktop::only_one& one, hustle::desktop::session& 
 } // namespace
 
 int main(int argc, char** argv) {
-    const int status = read_arguments(argc, argv);
+    options chosen;
+    const int status = read_arguments(chosen, argc, argv);
     if (status >= 0)
         return status;
     if (!has_display()) {
@@ -108,10 +120,12 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     hustle::desktop::session session;
     session.view = hustle::desktop::load_view_settings();
-    if (reduced_flashing) {
-        session.view.reduced_flashing = *reduced_flashing;
+    if (chosen.reduced_flashing || chosen.full_flashing) {
+        session.view.reduced_flashing = chosen.reduced_flashing;
         session.view.flashing_asked = true;
     }
+    if (!chosen.watch.empty())
+        return watch_a_script(session, chosen.watch);
     hustle::desktop::only_one one;
     if (!settle_who_plays(one, session))
         return 0;

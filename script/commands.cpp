@@ -309,10 +309,14 @@ int run_script(std::string_view text, std::string_view name, std::ostream& out, 
 }
 
 int watch_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err,
-                 const std::function<void(game&)>& passing) {
+                 const std::function<void(game&)>& passing,
+                 const std::function<void(game&, int status)>& at_end) {
     runner r(text, name, out, err);
     r.s.passing = passing;
-    return run_lines(r);
+    const int status = run_lines(r);
+    if (at_end)
+        at_end(r.s.g, status);
+    return status;
 }
 
 } // namespace hustle::script

@@ -14,7 +14,6 @@ namespace hustle::desktop {
 namespace {
 
 constexpr const char* coming = ".new"; // behind the name of a file that is being written
-constexpr std::size_t most_bytes = 1 << 20;
 constexpr int most_kept = 99;
 
 int system_open(int folder, const char* name, int flags, mode_t mode) {
@@ -101,9 +100,9 @@ std::string unreadable_kind(const struct stat& what) {
     return "it is not a plain file";
 }
 
-bool read_all(int file, std::string& text) {
+bool read_all(int file, std::string& text, std::size_t most) {
     char bytes[16384];
-    while (text.size() < most_bytes) {
+    while (text.size() < most) {
         const ssize_t got = ::read(file, bytes, sizeof bytes);
         if (got < 0 && errno == EINTR)
             continue;
@@ -119,9 +118,9 @@ bool read_all(int file, std::string& text) {
 const file_calls system_calls = {system_open, ::write,       ::fdatasync,  ::fsync,
                                  ::close,     system_rename, system_remove};
 
-stored_text read_stored(const std::string& folder, const std::string& name) {
+stored_text read_stored(const std::string& folder, const std::string& name, std::size_t most) {
     using enum stored_text::state;
-    const std::string path = folder + "/" + name;
+    const std::string path = name.starts_with("/") ? name : folder + "/" + name;
     // Without waiting: a pipe would hold the program until somebody writes to it.
     const handle file(system_calls, ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file.is_open())
@@ -132,7 +131,7 @@ stored_text read_stored(const std::string& folder, const std::string& name) {
     if (!S_ISREG(what.st_mode))
         return {unreadable, {}, unreadable_kind(what)};
     stored_text found{there, {}, {}};
-    if (!read_all(file.number, found.text))
+    if (!read_all(file.number, found.text, most))
         return {unreadable, {}, reason()};
     return found;
 }

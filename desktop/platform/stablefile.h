@@ -29,8 +29,9 @@ struct stored_text {
 };
 
 // A file that is not a plain one (a folder, a pipe, a device) counts as unreadable and is never
-// waited for. No more than a mebibyte is read: the machine's files are a thousandth of that.
-stored_text read_stored(const std::string& folder, const std::string& name);
+// waited for. No more than `most` bytes are read: the machine's files are a thousandth of a mebibyte.
+// A name that begins with a slash stands in no folder.
+stored_text read_stored(const std::string& folder, const std::string& name, std::size_t most = 1 << 20);
 
 // Replaces a file as a whole: at every moment the old text or the new one is there. Empty where the
 // new text is surely on the disk; otherwise why not, for the player. A link is replaced, not

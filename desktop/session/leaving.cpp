@@ -90,6 +90,8 @@ void leave(session& s) {
 }
 
 void ask_to_leave(session& s) {
+    if (s.watched != nullptr)
+        return QCoreApplication::exit(0);
     if (s.held > 0 || !s.started)
         return;
     if (is_loaded(s.g.p, screen::feature) && s.g.m.exiting != 1) {

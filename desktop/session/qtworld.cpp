@@ -10,6 +10,7 @@
 #include "desktop/window/mainwindow.h"
 #include "panel/sheet.h"
 #include "panel/splitmix.h"
+#include "panel/text.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -190,9 +191,11 @@ bool qtworld::system_info() { return show_system_info(data); }
 std::string qtworld::currency(float amount) {
     // A system without a country of its own ("C") plays in pounds, as the machine's home does.
     const QLocale system = QLocale::system();
-    const QLocale uk(QLocale::English, QLocale::UnitedKingdom);
-    const QLocale& form = system.language() == QLocale::C ? uk : system;
-    return form.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
+    const bool at_home = system.language() == QLocale::C || (system.language() == QLocale::English &&
+                                                             system.territory() == QLocale::UnitedKingdom);
+    if (at_home) // as a panel script tells it, which a replay of this session must
+        return std::string(std::string_view(uk_currency(amount)));
+    return system.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
 }
 
 void qtworld::exit() { QCoreApplication::exit(0); }

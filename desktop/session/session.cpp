@@ -128,6 +128,13 @@ void raise_front(session& s) {
 
 // What can wait until the player sees something.
 void after_first_frame(session& s) {
+    if (s.watched != nullptr) { // it has a clock of its own
+        watch_for_the_end(s);
+        open_ears(s.world);
+        set_loudness(s);
+        QApplication::setWindowIcon(program_icon());
+        return;
+    }
     if (s.held > 0) { // a box stands open: later
         QTimer::singleShot(100, &s.wake, [&s] { after_first_frame(s); });
         return;
@@ -161,7 +168,7 @@ void draw_one(session& s) {
 
 } // namespace
 
-void start_session(session& s) {
+void open_session(session& s) {
     s.world.s = &s;
     prepare_world(s.world);
     ask_about_flashing(s);
@@ -172,6 +179,10 @@ void start_session(session& s) {
     s.ahead.setInterval(ahead_ms);
     QObject::connect(&s.ahead, &QTimer::timeout, &s.ahead, [&s] { draw_one(s); });
     start_motion(s);
+}
+
+void start_session(session& s) {
+    open_session(s);
     const int clock_ms = QTime::currentTime().msecsSinceStartOfDay();
     reset_game(s.g, clock_ms);
     boot(s.g);

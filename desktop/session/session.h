@@ -22,6 +22,7 @@
 namespace hustle::desktop {
 
 class mainwindow;
+struct watching;
 class screenview;
 
 struct session {
@@ -45,13 +46,16 @@ struct session {
     saver saving;
     name_form name;
     recorder record;
-    QTimer second; // between two flushes of the record
+    watching* watched = nullptr; // the script that is played in place of the player; null: none
+    QTimer second;               // between two flushes of the record
 
     mainwindow* window = nullptr;                 // of main and of the board
     std::array<screenview*, screen_count> side{}; // windows of the other screens, null while closed
     screen in_front = screen::software;           // as the windows last had it
 };
 
+// Makes the session ready for its windows: folders, timers, nothing of the machine yet.
+void open_session(session&);
 // Boots the machine into its windows; its clock starts with the first painted frame.
 void start_session(session&);
 // A view has been painted for the first time in this session: now the clock may start.

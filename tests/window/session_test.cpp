@@ -6,7 +6,9 @@
 #include "desktop/session/leaving.h"
 #include "desktop/session/onlyone.h"
 #include "desktop/session/session.h"
+#include "desktop/session/watch.h"
 #include "desktop/window/mainwindow.h"
+#include "script/dump.h"
 
 #include <gtest/gtest.h>
 
@@ -178,6 +180,33 @@ TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {
     p.s.window->close();
     p.until_over();
     EXPECT_NE(p.stored("game.dat"), "");
+}
+
+TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
+    program p;
+    p.s.world.saving = false;
+    open_session(p.s);
+    watching w;
+    w.text = "seed 1\npress main.start\nrun 3000\nhash\n";
+    w.name = "script";
+    w.speed = 0;
+    start_watching(p.s, w);
+    p.until([&] { return p.s.g.p.now > 0; });
+    const auto first = p.s.g.p.now;
+    step_watched(w);
+    p.until([&] { return p.s.g.p.now > first; });
+    EXPECT_LT(p.s.g.p.now, first + 1000) << "one step went far";
+    send(p.s, {input::kind::close, screen::main});
+    EXPECT_FALSE(p.s.g.p.over) << "the player plays a script that is watched";
+    w.speed = 20;
+    p.until([&] {
+        const std::scoped_lock held(w.lock);
+        return w.ended && w.waits != nullptr && w.waits->p.now == p.s.g.p.now;
+    });
+    stop_watching(w);
+    const script::names shown(p.s.g);
+    EXPECT_EQ(w.printed.str(), "hash = " + script::hash_text(shown) + "\n");
+    EXPECT_EQ(p.stored("game.dat"), "");
 }
 
 TEST(Session, IsTheOnlyOneOnItsFiles) {

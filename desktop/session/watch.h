@@ -1,0 +1,51 @@
+// A panel script played in the window, to be watched: at any speed from still to twenty times, or
+// step by step. The script runs its own machine on a thread of its own and waits there at each new
+// time until it is let on; the window shows a copy of what stands.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+#include <QTimer>
+
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+#include <sstream>
+#include <string>
+#include <thread>
+
+class QLabel;
+
+namespace hustle {
+struct game;
+}
+
+namespace hustle::desktop {
+
+struct session;
+
+struct watching {
+    std::string text, name; // of the script
+    double speed = 1;       // 0 is still
+    double reach = 0;       // ms on the machine's clock that the script may come to
+    QElapsedTimer real;
+    QTimer look; // the next picture
+    QLabel* told = nullptr;
+
+    std::mutex lock; // of what follows
+    std::condition_variable changed;
+    std::int64_t allowed = 0; // `reach` as the script sees it
+    game* waits = nullptr;    // the script's machine while it waits; null while it runs
+    bool ended = false;
+    bool stopped = false;
+    std::ostringstream printed, failed; // read once it has ended
+    std::jthread worker;
+};
+
+// Starts to play a script in the session's windows, which then take no input of the player's.
+void start_watching(session&, watching&);
+void stop_watching(watching&);
+// On by one: to the next time at which something happens.
+void step_watched(watching&);
+
+} // namespace hustle::desktop
