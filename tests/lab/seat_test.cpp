@@ -8,6 +8,8 @@
 #include <numeric>
 #include <sstream>
 
+extern std::size_t allocations; // of the whole program so far
+
 namespace hustle::lab {
 namespace {
 
@@ -80,6 +82,13 @@ TEST_P(Players, AllMoneyHasASourceAndTheLedgersAgree) {
     EXPECT_GE(c.staked, c.plays * stake_units);
     // The machine's ledger drifts by the last bits of its singles.
     EXPECT_NEAR(double{s->g.m.moneyout} - 80, static_cast<double>(c.banked) * pounds_of_unit, 2);
+}
+
+TEST_P(Players, NothingIsAllocatedInAPlay) {
+    const auto s = played(short_run(GetParam(), 4000)); // the longest texts have been shown
+    const std::size_t before = allocations;
+    play_on(*s, 8000);
+    EXPECT_EQ(allocations, before);
 }
 
 TEST_P(Players, AScriptOfTheSamePressesLeavesTheSameMachine) {
