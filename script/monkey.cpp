@@ -49,6 +49,15 @@ constexpr element rare[] = {element::newgame,
 
 constexpr int keys[] = {8, 13, 27, 32, 48, 49, 50, 51, 67, 72, 76, 84, 88, 112, 113, 114};
 
+constexpr int wins[] = {0, 2, 10, 16, 20, 24, 30, 36, 40, 50, 60, 80, 150, 300};
+constexpr int bounds[] = {0, 65, 70, 74, 75, 76, 80, 84, 85, 86, 90, 91, 94, 95, 96, 100};
+
+bool is_whole(const field_row& f) {
+    return std::visit(each{[](count machine::*) { return true; }, [](count board::*) { return true; },
+                           [](count table_fields::*) { return true; }, [](auto) { return false; }},
+                      f.where);
+}
+
 // The monkey's own choices; the machine has a generator of its own.
 struct monkey {
     watched& on;
@@ -104,12 +113,27 @@ struct monkey {
             make(deed::begin, any_of(timer_count));
         if (choose(100) == 0)
             make(deed::award, any_of(award_words().size()));
-        if (choose(20) == 0)
-            make(deed::pcent, 50 + choose(60));
         if (choose(100) == 0)
-            make(deed::win, choose(17));
+            make(deed::win, wins[any_of(std::size(wins))]);
         if (choose(100) == 0)
-            make(deed::credits, choose(4));
+            make(deed::credits, choose(6));
+        if (choose(30) == 0) {
+            const int field = any_of(field_rows().size());
+            if (is_whole(field_rows()[static_cast<std::size_t>(field)]))
+                make(deed::field, field * 64 + choose(choose(3) == 0 ? 64 : 12));
+        }
+        if (choose(10) == 0)
+            at_the_bound();
+    }
+
+    // Odds turn where pcent stands exactly at a bound: what is decided then is decided at once.
+    void at_the_bound() {
+        make(deed::pcent,
+             choose(8) == 0 ? 50 + choose(60) : bounds[choose(static_cast<int>(std::size(bounds)))]);
+        if (choose(2) == 0)
+            make(deed::call, choose(static_cast<int>(operation_rows().size())));
+        else
+            make(deed::begin, choose(static_cast<int>(timer_count)));
     }
 
     void step() {

@@ -2,6 +2,7 @@
 
 #include "core/upward.h"
 #include "panel/sheet.h"
+#include "panel/text.h"
 #include "screens/dispatch.h"
 #include "script/names.h"
 #include "script/operations.h"
@@ -38,6 +39,26 @@ std::string call_text(int operation) {
     return std::string(row(o.where).name) + "." + std::string(o.name);
 }
 
+single tenths(int value) { return static_cast<single>(value / 10.0); }
+single quarters(int value) { return static_cast<single>(value / 4.0); }
+std::string tenths_text(int value) { return std::string(plain(tenths(value))); }
+std::string quarters_text(int value) { return std::string(plain(quarters(value))); }
+
+const field_row& as_field(int value) { return field_rows()[static_cast<std::size_t>(value / 64)]; }
+int field_value(int value) {
+    const auto& bears = as_field(value).bears;
+    return bears ? bears->least + value % 64 % (bears->most - bears->least + 1) : value % 64;
+}
+void set_field(game& g, int value) {
+    const int to = field_value(value);
+    std::visit(each{[&](count machine::*f) { set(g.m.*f, to); }, [&](count board::*f) { set(g.b.*f, to); },
+                    [&](count table_fields::*f) { set(g.t.*f, to); }, [](auto) {}},
+               as_field(value).where);
+}
+std::string field_text(int value) {
+    return std::string(as_field(value).name) + " " + std::to_string(field_value(value));
+}
+
 std::string timer_text(int t) { return full_name(as_timer(t)) + ".running true"; }
 std::string award_text(int value) { return quote(as_award(value)); }
 
@@ -69,10 +90,9 @@ constexpr deed_row deeds[] = {
     {deed::award,       "set award ",         award_text,   [](game& g, int to) { g.m.award = as_award(to); }},
     {deed::pcent,       "set pcent ",         number_text,
                         [](game& g, int to) { g.m.pcent = static_cast<single>(to); }},
-    {deed::win,         "set win ",           number_text,
-                        [](game& g, int to) { g.m.win = static_cast<single>(to); }},
-    {deed::credits,     "set credits ",       number_text,
-                        [](game& g, int to) { g.m.credits = static_cast<single>(to); }},
+    {deed::win,         "set win ",           tenths_text,  [](game& g, int to) { g.m.win = tenths(to); }},
+    {deed::credits,     "set credits ",       quarters_text, [](game& g, int to) { g.m.credits = quarters(to); }},
+    {deed::field,       "set ",               field_text,   set_field},
 };
 // clang-format on
 

@@ -29,8 +29,9 @@ enum class deed : std::uint8_t {
     begin, // a timer is started
     award, // a word of award_words()
     pcent,
-    win,
-    credits,
+    win,     // in tenths of a pound
+    credits, // in quarters of a play
+    field,   // the place of a whole-number field in field_rows(), times 64, and what it becomes
 };
 
 struct move {

@@ -12,8 +12,9 @@ namespace hustle::script {
 
 namespace {
 
-constexpr std::int64_t patience = 60 * 60 * 1000; // ms without a new play that mean a dead machine
-constexpr int start_up = 350;                     // ms until main stands
+constexpr std::int64_t patience =
+    std::int64_t{60} * 60 * 1000; // ms without a new play that mean a dead machine
+constexpr int start_up = 350;     // ms until main stands
 
 void sign(std::uint64_t& number, std::uint64_t value) { number = (number ^ value) * 0x100000001b3ULL; }
 void sign(std::uint64_t& number, std::string_view text) {

@@ -19,6 +19,19 @@ TEST(Sheet, EveryButtonHasAnActionAndEveryElementLiesOnItsScreen) {
         }
 }
 
+TEST(Sheet, MenusReadAsPlayersKnowThem) {
+    std::string all;
+    for (const menu_row& r : menu_rows())
+        all.append(r.menu.substr(0, 1))
+            .append(r.entry == element::total ? "-" : row(r.entry).name)
+            .append(" ");
+    EXPECT_EQ(
+        all,
+        "Gnewgame G- Ggstat Ghscoretable Ginsertcoinmenu G- Gexitgame Ofreelspin Osreelspin Orreelspin O- "
+        "Ods Ops O- Osoundon Osoundoff O- Oreddisp Opurpledisp Opinkdisp Obluedisp Oyellowdisp "
+        "Ogreendisp O- Oflon Ofloff Hhelpcontents H- Hrguidemenu Hrwinmenu H- Hvisitweb H- Hhelpabout ");
+}
+
 struct ticks {
     panel p;
     std::vector<std::pair<timer, std::int64_t>> seen;

@@ -68,9 +68,12 @@ std::vector<int> triples(std::string_view belt) {
 TEST(Belts, RunFromTheirWorstToTheirBestTriple) {
     struct ends {
         int worst, best;
+        int weighed; // the triples, each times its place: no price can be another
     };
-    const ends creepy[] = {{60, 370}, {100, 500}, {50, 320}, {80, 320}, {80, 620}};
-    const ends super[] = {{220, 810}, {300, 1040}, {320, 850}, {340, 970}, {300, 920}};
+    const ends creepy[] = {
+        {60, 370, 67960}, {100, 500, 85870}, {50, 320, 69970}, {80, 320, 51820}, {80, 620, 82090}};
+    const ends super[] = {
+        {220, 810, 163500}, {300, 1040, 186700}, {320, 850, 189500}, {340, 970, 169980}, {300, 920, 184460}};
     for (int row = 1; row <= belts_each; ++row)
         for (const bool is_super : {false, true}) {
             const std::string_view belt = is_super ? super_belt(row) : creepy_belt(row);
@@ -80,6 +83,10 @@ TEST(Belts, RunFromTheirWorstToTheirBestTriple) {
             ASSERT_EQ(sums.size(), 25u);
             EXPECT_EQ(*std::min_element(sums.begin(), sums.end()), wanted.worst) << row << is_super;
             EXPECT_EQ(*std::max_element(sums.begin(), sums.end()), wanted.best) << row << is_super;
+            int weighed = 0;
+            for (std::size_t i = 0; i < sums.size(); ++i)
+                weighed += static_cast<int>(i + 1) * sums[i];
+            EXPECT_EQ(weighed, wanted.weighed) << row << is_super;
         }
 }
 
