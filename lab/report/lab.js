@@ -308,10 +308,10 @@ const hustleLab = (() => {
                         y: y(b[key]), height: p.bottom - y(b[key]), fill: colourOf(i),
                         "data-tip": `${nameOf(r)}, pcent ${bandName(b)}: ${percent(b[key], digits)} (${count(b.plays)} plays)`}));
             }));
-            all.forEach((b, k) => p.root.append(label(p.left + (k + 0.5) * step, p.bottom + 18, b.upto === null ? "more" : "≤" + b.upto,
-                {"text-anchor": "middle"})));
+            all.forEach((b, k) => p.root.append(label(p.left + (k + 0.5) * step, p.bottom + 18, b.upto === null ? (step < 36 ? "+" : "more")
+                : (step < 36 ? "" : "≤") + b.upto, {"text-anchor": "middle"})));
             p.root.append(svg("line", {class: "base", x1: p.left, x2: p.right, y1: p.bottom, y2: p.bottom}),
-                label(p.right, p.bottom + 36, "pcent at the stake", {class: "axis", "text-anchor": "end"}));
+                label(p.right, p.bottom + 36, "pcent at the stake, up to", {class: "axis", "text-anchor": "end"}));
             return p.root;
         };
         figure(root, "The gates of pcent", "The machine's odds change where its payout percentage crosses a gate. How many plays begin " +
