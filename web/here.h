@@ -3,6 +3,7 @@
 
 #include "core/game.h"
 #include "script/names.h"
+#include "show/stage.h"
 #include "web/pageworld.h"
 
 #include <string>
@@ -13,6 +14,7 @@ namespace hustle::web {
 struct here {
     pageworld world;
     game g{world};
+    stage eye;        // what the eye sees beyond the panel
     std::string room; // what the page has written
     std::string text; // what it may read
 };

@@ -18,7 +18,10 @@ std::array<unsigned short, element_count> changed;
 std::array<unsigned char, screen_count> on_show;
 hh_shown_look look_buffer;
 
-const element_state& state_of(int e) { return at(machine_here().g.p, static_cast<element>(e)); }
+// As it is to be painted: a lamp that flashes too fast may be held at another look.
+const element_state& state_of(int e) {
+    return shown(machine_here().eye, machine_here().g.p, static_cast<element>(e));
+}
 
 art shown_art(const panel& p, art a) { return p.dollars ? dollar_version(a) : a; }
 

@@ -90,6 +90,25 @@ const unsigned char* hh_shown_screens(void);
 int hh_is_loaded(int screen);
 int hh_title(int screen);
 
+/* --- what the eye sees beyond the panel: show/stage.h; `now` in real ms, never going back --- */
+
+/* Before hh_take_changed, after each batch of events. */
+void hh_take_in(double now);
+/* Before each picture: in how many ms the next one is wanted; 0 at once, -1 not before the next
+ * hh_take_in. What looks different is among hh_take_changed's. */
+int hh_advance(double now);
+/* Numbers of the motion, how many; they stand at hh_numbers(). For each reel: 1 where it stands on
+ * the strip, the stop on the win line from 0, the stops that run past while the eye takes a picture.
+ * Then the columns that the board's line has run on, the glow of the win line from 0 to 1, the size
+ * of its symbols from 1, and for each coin x and y in panel pixels and its opacity. */
+int hh_motion(void);
+const double* hh_numbers(void);
+void hh_reduce(int on); /* Reduced Flashing */
+/* What the player can do now; "Bank ..."; "Credits ...". */
+int hh_hint(void);
+int hh_bank_label(void);
+int hh_credits_label(void);
+
 /* --- files and records --- */
 
 /* game.dat (0) or hscore.dat (1) as they would be saved now. */

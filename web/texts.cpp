@@ -66,7 +66,7 @@ const script::cell* find_cell(std::string_view name) {
 
 // {"screens": [[name, width, height]], "elements": [[name, screen, kind, left, top, width, height,
 // lamp]], "menus": [[menu, entry or -1 for a separator]], "arts": [name], "sounds": [name],
-// "glow": panel pixels, "version": text}; lengths in twips, 15 to a pixel of the panel.
+// "winLine": [left, top, width, height], "coinSize" and "glow": panel pixels, "version": text}; lengths in twips, 15 to a pixel of the panel.
 int hh_sheet(void) {
     std::string json = "{\"screens\":" + list(screen_count, [](std::size_t i) {
                            const screen_row& s = row(static_cast<screen>(i));
@@ -83,6 +83,9 @@ int hh_sheet(void) {
     json += ",\"arts\":" + list(art_count, [](std::size_t i) { return quoted(name(static_cast<art>(i))); });
     json +=
         ",\"sounds\":" + list(sound_count, [](std::size_t i) { return quoted(name(static_cast<sound>(i))); });
+    const rect line = win_line_area();
+    json += ",\"winLine\":[" + figure(line.left) + "," + figure(line.top) + "," + figure(line.width) + "," +
+            figure(line.height) + "],\"coinSize\":" + figure(coin_size);
     json += ",\"glow\":" + figure(glow_reach) + ",\"version\":" + quoted(version_text) + "}";
     return give(json);
 }

@@ -7,7 +7,7 @@ import { makeScreen } from "./view.js";
 const thumb = 44; // CSS pixels
 const smallest = 0.9; // the scale below which the smallest button is no thumb's breadth
 
-export function makeCabinet(machine, host, { press, type, close, bringToFront }) {
+export function makeCabinet(machine, host, { press, type, close, bringToFront, placed }) {
   const { x, sheet } = machine;
   const { screenId } = sheet;
   const pair = [screenId.main, screenId.feature];
@@ -133,6 +133,7 @@ export function makeCabinet(machine, host, { press, type, close, bringToFront })
   }, true);
   const settled = new ResizeObserver(() => {
     layoutMain();
+    placed();
     for (const id of windows.keys()) layoutWindow(id);
   });
   settled.observe(room);

@@ -88,6 +88,15 @@ export async function startModule(bytes, world) {
       const count = x.hh_shown();
       return [...new Uint8Array(x.memory.buffer, x.hh_shown_screens(), count)];
     },
+    // Reels, belt, win and coins as the eye sees them now.
+    motion() {
+      const count = x.hh_motion();
+      const all = new Float64Array(x.memory.buffer, x.hh_numbers(), count).slice();
+      const reels = [0, 3, 6].map((i) => ({ onStrip: all[i] === 1, at: all[i + 1], blur: all[i + 2] }));
+      const coins = [];
+      for (let i = 12; i < all.length; i += 3) coins.push({ x: all[i], y: all[i + 1], opacity: all[i + 2] });
+      return { reels, columns: all[9], glow: all[10], swell: all[11], coins };
+    },
     glyph: (letter) => new Uint8Array(x.memory.buffer, x.hh_glyph(letter), 7),
   };
   machine.sheet = readSheet(JSON.parse(machine.text(x.hh_sheet())));
@@ -104,6 +113,5 @@ function readSheet(json) {
   const menus = json.menus.map(([menu, entry]) => ({ menu, entry }));
   const byName = new Map(elements.map((e) => [e.full, e]));
   const screenId = Object.fromEntries(screens.map((s) => [s.name, s.id]));
-  const { arts, sounds, glow, version } = json;
-  return { screens, elements, menus, arts, sounds, glow, version, byName, screenId };
+  return { ...json, screens, elements, menus, byName, screenId };
 }

@@ -8,6 +8,7 @@ import { listenForFiles, replaceFiles } from "./exchange.js";
 import { machineKey } from "./keys.js";
 import { startModule } from "./machine.js";
 import { makeMenus } from "./menus.js";
+import { makeMotion } from "./motion.js";
 import { makeAhead } from "./pictures.js";
 import { makeSession } from "./session.js";
 import { makeSound } from "./sound.js";
@@ -37,6 +38,7 @@ async function start() {
   let menus = null;
   let machine = null;
   let sound = null;
+  let motion = null;
 
   const world = {
     play: (wave) => sound.play(wave),
@@ -68,13 +70,28 @@ async function start() {
     press,
     type: (element, text) => send("hh_type", element, machine.give(text)),
     close: (screen) => send("hh_close", screen),
+    placed: () => motion?.paint(),
     bringToFront(screen) {
       if (cabinet.front() !== screen && !session.isHeld()) send("hh_show", screen);
     },
   });
 
   const soundOff = sheet.byName.get("main.soundoff").id;
+  motion = makeMotion(machine, cabinet, { still, show });
+  const hint = document.querySelector("#hint");
+  const [bank, words, credits] = hint.children;
   function refresh() {
+    motion.takeIn();
+    show();
+    if (!choices.hints || cabinet.shown() < 0) return;
+    setText(bank, machine.text(x.hh_bank_label()));
+    setText(words, machine.text(x.hh_hint()));
+    setText(credits, machine.text(x.hh_credits_label()));
+  }
+  const setText = (node, text) => {
+    if (node.textContent !== text) node.textContent = text;
+  };
+  function show() {
     const changed = machine.changed();
     cabinet.refresh(changed);
     for (const id of changed) if (menus) menus.refresh(id);
@@ -87,6 +104,12 @@ async function start() {
     Object.assign(choices, change);
     store.choose(choices);
     hearIt();
+    follow();
+  }
+  function follow() {
+    x.hh_reduce(choices.reduced ? 1 : 0);
+    hint.hidden = !choices.hints;
+    refresh();
   }
 
   // --- files ---
@@ -131,6 +154,11 @@ async function start() {
           checked: () => document.fullscreenElement !== null,
           act: () => (document.fullscreenElement ? document.exitFullscreen()
             : document.documentElement.requestFullscreen()).catch(() => {}) }, null] : []),
+        { name: "reduced", text: "Reduced Flashing", checked: () => choices.reduced === true,
+          act: () => choose({ reduced: !choices.reduced }) },
+        { name: "hints", text: "Hints", checked: () => choices.hints,
+          act: () => choose({ hints: !choices.hints }) },
+        null,
         ...volumes.map(([text, volume]) => ({ name: text.toLowerCase(), text,
           checked: () => !choices.mute && choices.volume === volume,
           act: () => choose({ volume, mute: false }) })),
@@ -210,6 +238,10 @@ async function start() {
 
   async function firstWords() {
     if (still) return;
+    if (choices.reduced === null && seed === null) {
+      choices.reduced = await askFlashing();
+      store.choose(choices);
+    }
     const turn = await takeTurn(() => {
       saveLedgers();
       store.stopSaving();
@@ -228,8 +260,12 @@ async function start() {
     }
   }
 
-  const waiting = firstWords();
-  await waiting;
+  // Before the first lamp flashes.
+  const askFlashing = () => dialog({ title: "Hoard Hustle", buttons: [["asitis", "Leave it as it is", false],
+    ["reduce", "Reduce flashing", true]],
+    text: "This machine flashes. Flashing light can bring on fits in some people, and headaches in more.\n\nShall it flash less? Lamps that flash fast are then held steady. The menu View, Reduced Flashing changes it at any time." });
+
+  await firstWords();
   for (const file of [0, 1]) {
     const text = store.read(file);
     if (text !== null) x.hh_give_file(file, machine.give(text));
@@ -241,6 +277,8 @@ async function start() {
   } else {
     x.hh_seed(chance[0], chance[1], 0);
   }
+  x.hh_reduce(choices.reduced ? 1 : 0);
+  hint.hidden = !choices.hints;
   const booted = machine.call("hh_boot", clockAtStart(), still ? 1 : 0);
   refresh();
   if (booted instanceof Promise) await booted;

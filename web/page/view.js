@@ -130,10 +130,11 @@ export function makeScreen(machine, screen, { press, type }) {
   }
 
   function showLine(part, look, caption) {
-    const key = `${caption}|${look.dots}|${look.flash}`;
+    const run = part.run ?? 0;
+    const key = `${caption}|${look.dots}|${look.flash}|${run}`;
     if (part.drawn === key || !part.node.width) return;
     part.drawn = key;
-    drawLine(machine, part.node, caption, look.dots, look.flash === 1);
+    drawLine(machine, part.node, caption, look.dots, look.flash === 1, run);
   }
 
   // Names follow the panel once it has stood still for a moment: the dark frame of a flashing text
@@ -153,7 +154,9 @@ export function makeScreen(machine, screen, { press, type }) {
     else if (e.kind === "line" || e.lamp || pressable.has(e.kind)) node.setAttribute("aria-label", part.named);
   }
 
+  let scaleNow = 1;
   function placeAll(scale, withDeck) {
+    scaleNow = scale;
     const ratio = window.devicePixelRatio || 1;
     const snap = (length) => Math.round(length * ratio) / ratio;
     const unit = scale / twips;
@@ -203,5 +206,13 @@ export function makeScreen(machine, screen, { press, type }) {
       }
     },
     placeAll,
+    scale: () => scaleNow,
+    // The columns of dots that a line has run on to the left.
+    runLine(full, columns) {
+      const part = parts.get(sheet.byName.get(full).id);
+      if ((part.run ?? 0) === columns) return;
+      part.run = columns;
+      showLook(part);
+    },
   };
 }
