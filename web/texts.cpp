@@ -66,7 +66,8 @@ const script::cell* find_cell(std::string_view name) {
 
 // {"screens": [[name, width, height]], "elements": [[name, screen, kind, left, top, width, height,
 // lamp]], "menus": [[menu, entry or -1 for a separator]], "arts": [name], "sounds": [name],
-// "winLine": [left, top, width, height], "coinSize" and "glow": panel pixels, "version": text}; lengths in twips, 15 to a pixel of the panel.
+// "winLine": [left, top, width, height], "coinSize" and "glow": panel pixels, "version": text}; lengths in
+// twips, 15 to a pixel of the panel.
 int hh_sheet(void) {
     std::string json = "{\"screens\":" + list(screen_count, [](std::size_t i) {
                            const screen_row& s = row(static_cast<screen>(i));

@@ -285,6 +285,7 @@ async function start() {
   session.start();
   hearIt();
   window.hustle = makeConsole(machine, session, refresh);
+  performance.mark("machine");
   document.documentElement.dataset.ready = "true";
   if (!still) {
     setInterval(saveLedgers, saveEvery);

@@ -1,0 +1,134 @@
+#!/usr/bin/env python3
+"""What the page keeps: saving, damaged and full stores, two tabs, files both ways, and offline."""
+import pathlib
+import sys
+import tempfile
+import threading
+
+from browser import APP, PAGE, ROOT, Browser, main, play_script, told
+
+sys.path.insert(0, str(ROOT / "web"))
+import serve  # noqa: E402  pylint: disable=wrong-import-position
+
+GAME = "localStorage.getItem('hoardhustle/game.dat')"
+
+
+def play_once(b):
+    before = b.get("moneyin")
+    b.until("hustle.get('main.start.enabled')")
+    b.key(" ", "Space", 32)
+    b.until(f"hustle.get('moneyin') > {before}")
+
+
+def saves():
+    """The ledgers outlive the page; a damaged file is set aside and told."""
+    with Browser() as b:
+        b.start_as_player("?seed=5")
+        play_once(b)
+        money = b.get("moneyin")
+        b.until(f"({GAME} ?? '').startsWith({told(str(money))[1:-1]!r})")
+        b.driver.get("about:blank")
+        b.open("?seed=5")  # asked about flashing once, and no more
+        b.ready()
+        assert abs(b.get("moneyin") - money) < 0.3 and b.get("moneyin") > 100
+        b.run("Storage.prototype.setItem.call(localStorage, 'hoardhustle/game.dat', 'nonsense');"
+              "Storage.prototype.setItem = () => {}")
+        b.open("?seed=5")
+        b.until("document.querySelector('dialog[open]')?.textContent.includes('damaged') === true")
+        b.answer("ok")
+        b.ready()
+        assert b.get("moneyin") == 100
+        assert b.value("localStorage.getItem('hoardhustle/game.dat.damaged')") == "nonsense"
+
+
+def full():
+    """A store that takes nothing is told, and the machine plays."""
+    with Browser() as b:
+        b.command("Page.addScriptToEvaluateOnNewDocument", source="Storage.prototype.setItem = () => {"
+                  "throw new DOMException('full', 'QuotaExceededError'); }")
+        b.open()
+        b.answer("asitis")
+        b.until("document.querySelector('dialog[open]')?.textContent.includes('keeps nothing') === true")
+        b.answer("ok")
+        b.ready()
+        play_once(b)
+
+
+def tabs():
+    """Two tabs do not overwrite each other: one has the turn, and hands it over when it is asked."""
+    with Browser() as b:
+        b.start_as_player("?seed=5")
+        first = b.driver.current_window_handle
+        play_once(b)
+        money = b.get("moneyin")
+        b.driver.switch_to.new_window("tab")
+        second = b.driver.current_window_handle
+        b.open("?seed=6")
+        b.answer("bring")
+        b.ready()
+        assert abs(b.get("moneyin") - money) < 0.01, "the first tab saved before it let go"
+        b.driver.switch_to.window(first)
+        b.until("document.querySelector('dialog[open]')?.textContent.includes('another tab') === true")
+        b.answer("ok")
+        assert b.run("return hustle.press('main.start')") is False
+        b.driver.switch_to.window(second)
+        play_once(b)
+        assert b.get("moneyin") > money
+
+
+def files():
+    """From the desktop to the browser and back, with the very same text; the session replays."""
+    first = play_script("seed 9\npress main.start\nrun 9000\nclose main\nget file.game.dat file.hscore.dat\n")
+    texts = {}
+    for line in first.splitlines():
+        name, text = line.split(" = ", 1)
+        texts[name.removeprefix("file.")] = text[1:-1].replace("\\r", "\r").replace("\\n", "\n").replace('\\"', '"')
+    with Browser() as b, tempfile.TemporaryDirectory() as folder:
+        b.start_as_player("?seed=5")
+        for name, text in texts.items():
+            pathlib.Path(folder, name).write_bytes(text.encode())
+        b.at("page.open")
+        b.driver.find_element("css selector", "#files").send_keys(
+            "\n".join(str(pathlib.Path(folder, name)) for name in texts))
+        b.run("window.old = true")
+        b.answer("yes")
+        b.until("window.old === undefined && document.documentElement.dataset.ready === 'true'")
+        assert b.value(GAME) == texts["game.dat"], "the very same text"
+        b.until("hustle.get('main.loaded')")
+        play_once(b)
+        b.command("Browser.setDownloadBehavior", behavior="allow", downloadPath=folder + "/down", eventsEnabled=True)
+        state, session, game = b.value("[hustle.hash(), hustle.session(), hustle.get('moneyin')]")
+        assert play_script(session).split()[-1] == state, "the session replays to the same state"
+        b.at("menu.Files").click()
+        b.at("page.savegame").click()
+        down = pathlib.Path(folder, "down", "game.dat")
+        b.until("true")
+        while not down.exists():  # ctest ends a test that waits in vain
+            b.value("1")
+        back = down.read_bytes().decode()
+        lines = "".join(line + "\n" for line in back.split("\r\n")[:-1])
+        found = play_script(f"file game.dat\n{lines}end\nget moneyin\n")
+        assert abs(float(found.split()[-1]) - game) < 0.6
+
+
+def offline():
+    """The folder on a web server: once seen it plays with the server gone."""
+    serving = serve.server(str(APP), [0])
+    threading.Thread(target=serving.serve_forever, daemon=True).start()
+    page = f"http://127.0.0.1:{serving.server_port}/"
+    with Browser() as b:
+        b.start_as_player(page=page)
+        b.driver.execute_async_script("navigator.serviceWorker.ready.then(arguments[0])")
+        manifest = b.command("Page.getAppManifest")
+        assert manifest["errors"] == [] and "Hoard Hustle" in manifest["data"]
+        b.until("navigator.serviceWorker.controller !== null")
+        serving.shutdown()
+        serving.server_close()
+        b.open(page=page)
+        b.ready()
+        b.until("hustle.get('main.loaded')")
+        play_once(b)
+
+
+if __name__ == "__main__":
+    main({f.__name__: f for f in (saves, full, tabs, files, offline)})
