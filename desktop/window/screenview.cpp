@@ -110,20 +110,33 @@ void screenview::refresh() {
     }
 }
 
+// A reel on its strip covers all that is painted behind it, so that a rolling one needs no more than
+// itself. Where a pixel of the widget is not one of the screen its edges are not whole.
+QRegion screenview::behind_reels(QRegion region) const {
+    for (std::size_t i = 0; what == hustle::screen::main && devicePixelRatioF() == 1 && i < 3; ++i)
+        if (played.show.reels[i].on_strip)
+            region -= device_rect(nth(element::reel1, static_cast<int>(i) + 1));
+    return region;
+}
+
 void screenview::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setClipRegion(behind_reels(event->region()));
     painter.fillRect(event->rect(), ground_colour());
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
     canvas c{painter, pictures, dots, lamps, strips, played.show, scale, origin};
     const QRegion& region = event->region();
-    for (const bool pictures_first : {true, false}) // no picture covers what can be pressed or read
+    for (const bool pictures_first : {true, false}) { // no picture covers what can be pressed or read
+        if (!pictures_first)
+            painter.setClipRegion(QTransform::fromScale(ratio, ratio).map(event->region()));
         for (const element_row& r : elements_of(what))
             if ((r.what == kind::picture) == pictures_first && !is_edited(r.id) &&
                 region.intersects(dirty_rect(r.id)))
                 draw_element(c, played.g.p, r.id, device_rect(r.id), r.id == held);
+    }
     if (what == hustle::screen::main)
         draw_win(c, played.g.p);
     has_painted = true;

@@ -53,6 +53,7 @@ protected:
 private:
     void measure();
     QRect dirty_rect(element) const;
+    QRegion behind_reels(QRegion) const;
     element under(QPoint) const;
     void make_text_boxes();
     void place_children();
