@@ -2,6 +2,7 @@
 
 #include "art/art.h"
 #include "art/buttons.h"
+#include "panel/strip.h"
 
 #include <array>
 
@@ -28,9 +29,8 @@ struct named {
 using enum art;
 
 constexpr void put_reels(bank_table& bank) {
-    // The reel pictures stand in the order of the strip.
     for (int stop = 1; stop <= 16; ++stop)
-        put(bank, nth(cbp, stop), 144, 312, draw_reel, stop);
+        put(bank, strip[static_cast<std::size_t>(stop - 1)].picture, 144, 312, draw_reel, stop);
     constexpr named dollars[] = {{cbp1, 1}, {bps1, 2},  {psb1, 3},  {cmp1, 6},  {mps1, 7},  {psc1, 8},
                                  {scp1, 9}, {cpb1, 10}, {pbs1, 11}, {msp1, 14}, {spc1, 15}, {pcb1, 16}};
     for (const auto& [name, stop] : dollars)

@@ -1,6 +1,7 @@
 #include "art/bank.h"
 #include "art/letters.h"
 #include "art/symbols.h"
+#include "panel/strip.h"
 
 namespace hustle {
 
@@ -57,10 +58,10 @@ void badge(pen& p, int value) {
           {.fill = "#b00818", .edge = "#4a0008", .edge_width = 0.6, .shape = {.weight = 0.25}});
 }
 
-void stop_on_reel(pen& p, const stop_picture& s, money sign, double y) {
+void stop_on_reel(pen& p, const stop_row& s, money sign, double y) {
     {
         const moved here(p, reel_width / 2, y, 1.03);
-        draw(p, s.sign, sign);
+        draw(p, symbol_of(s.symbol), sign);
     }
     if (s.number > 0) {
         const moved corner(p, reel_width - 22, y + 31);
@@ -142,7 +143,7 @@ void draw_reel(pen& p, int stop) {
     const int middle = (stop - 1) % lit;
     reel_paper(p);
     for (const int row : {-1, 0, 1})
-        stop_on_reel(p, strip()[static_cast<std::size_t>((middle + row + 16) % 16)], sign,
+        stop_on_reel(p, strip[static_cast<std::size_t>((middle + row + 16) % 16)], sign,
                      reel_height / 2 + row * cell);
     reel_glass(p);
 }
@@ -150,8 +151,8 @@ void draw_reel(pen& p, int stop) {
 void draw_reelpaper(pen& p, int) { reel_paper(p); }
 
 void draw_reelstrip(pen& p, int which) {
-    for (std::size_t stop = 0; stop < strip().size(); ++stop)
-        stop_on_reel(p, strip()[stop], which == lit ? money::dollars : money::pounds,
+    for (std::size_t stop = 0; stop < strip.size(); ++stop)
+        stop_on_reel(p, strip[stop], which == lit ? money::dollars : money::pounds,
                      (static_cast<double>(stop) + 0.5) * cell);
 }
 
@@ -180,25 +181,24 @@ void draw_spinning_reel(pen& p, int phase) {
 }
 
 void draw_strip(pen& p, int) {
-    // Where the guide's frame stands for each stop, in twips from the top of its window.
-    constexpr int frame_tops[16] = {260,  750,  1240, 1720, 2220, 2730, 3200, 3680,
-                                    4140, 4650, 5160, 5640, 6070, 6540, 7000, 7535};
+    // Each symbol stands where the guide's frame will surround it.
+    const auto middle = [](const stop_row& s) { return s.frame_top / 15.0 + 20.5 - 8; };
     box(p, 0, 0, 50, 541, 4, {.fill = gold(p)});
     box(p, 2, 2, 46, 537, 3,
         {.fill = across(p, {{0, "#c8b080"}, {0.2, "#fff8e6"}, {0.8, "#fff8e6"}, {1, "#c8b080"}})});
     for (std::size_t i = 0; i < 16; ++i) {
-        const double y = frame_tops[i] / 15.0 + 20.5 - 8;
+        const double y = middle(strip[i]);
         if (i > 0) {
-            const double above = frame_tops[i - 1] / 15.0 + 20.5 - 8;
+            const double above = middle(strip[i - 1]);
             line(p, 6, (y + above) / 2, 44, (y + above) / 2, {.stroke = "#b89a5c", .width = 0.7});
         }
         {
-            const moved here(p, strip()[i].number > 0 ? 22 : 25, y, 0.31);
-            draw(p, strip()[i].sign);
+            const moved here(p, strip[i].number > 0 ? 22 : 25, y, 0.31);
+            draw(p, symbol_of(strip[i].symbol));
         }
-        if (strip()[i].number > 0) {
+        if (strip[i].number > 0) {
             const moved corner(p, 41, y + 8.5, 0.42);
-            badge(p, strip()[i].number);
+            badge(p, strip[i].number);
         }
     }
 }

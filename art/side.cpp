@@ -1,9 +1,11 @@
 #include "art/bank.h"
 #include "art/lamps.h"
 #include "art/symbols.h"
+#include "panel/prizes.h"
 
+#include <array>
 #include <string>
-#include <tuple>
+#include <utility>
 
 namespace hustle {
 
@@ -38,6 +40,15 @@ void at(pen& p, symbol s, double x, double y, double scale, money sign = money::
     draw(p, s, sign);
 }
 
+// Pounds as a sign tells them: whole ones without pence.
+std::string figures(float pounds) {
+    const int pence = static_cast<int>(pounds * 100 + 0.5F);
+    std::string text = std::to_string(pence / 100);
+    if (pence % 100 != 0)
+        text += (pence % 100 < 10 ? ".0" : ".") + std::to_string(pence % 100);
+    return text;
+}
+
 } // namespace
 
 void draw_startscreen(pen& p, int) {
@@ -57,7 +68,7 @@ void draw_startscreen(pen& p, int) {
     }
     box(p, 92, 283, 296, 25, 12,
         {.fill = "#12020a", .fill_opacity = 0.85, .stroke = gold(p, 283, 308), .width = 1.6});
-    write(p, "£15 JACKPOT   25P PLAY", 240, 289, 13,
+    write(p, "£" + figures(jackpot_win) + " JACKPOT   25P PLAY", 240, 289, 13,
           {.fill = "#ffe9a8", .shape = {.weight = 0.16, .stretch = 1.1, .most = 270}});
 }
 
@@ -66,20 +77,9 @@ void draw_wins(pen& p, int which) {
     const std::string mark = which == 1 ? "$" : "£";
     glass_ground(p, 309, 406);
     gold_words(p, "WINS", 154.5, 17, 28, 200, true);
-    struct line_win {
-        symbol signs[3];
-        std::string_view prize;
-    };
-    using enum symbol;
-    constexpr line_win wins[] = {
-        {{bell, bell, bell}, "15"},         {{rseven, rseven, rseven}, "8"},
-        {{bseven, bseven, bseven}, "6"},    {{bar, bar, bar}, "5"},
-        {{melon, melon, melon}, "4"},       {{cherry, cherry, cherry}, "2"},
-        {{rseven, bseven, rseven}, "1.60"}, {{coin, coin, coin}, "1"},
-    };
     double y = 56;
-    for (const line_win& w : wins) {
-        const bool jackpot = w.prize == "15";
+    const auto win_row = [&](std::array<symbol, 3> signs, float pounds, std::string_view note) {
+        const bool jackpot = pounds == jackpot_win;
         box(p, 14, y, 281, 38, 7,
             {.fill = jackpot ? std::string("#7a0c22") : std::string("#12041e"),
              .fill_opacity = jackpot ? 1 : 0.7,
@@ -90,14 +90,19 @@ void draw_wins(pen& p, int which) {
                 {.fill = down(p, {{0, "#e8d8b0"}, {0.4, "#fffaf0"}, {1, "#e8d8b0"}}),
                  .stroke = "#3a1a02",
                  .width = 0.8});
-            at(p, w.signs[i], 45 + i * 53, y + 19, 0.3, sign);
+            at(p, signs[static_cast<std::size_t>(i)], 45 + i * 53, y + 19, 0.3, sign);
         }
-        const std::string_view note = jackpot ? "JACKPOT" : w.prize == "1.60" ? "MIXED SEVENS" : "";
-        gold_words(p, mark + std::string(w.prize), 237, y + (note.empty() ? 9 : 4), note.empty() ? 20 : 18.5,
-                   90);
+        gold_words(p, mark + figures(pounds), 237, y + (note.empty() ? 9 : 4), note.empty() ? 20 : 18.5, 90);
         write(p, note, 237, y + 26.5, 8,
               {.fill = "#ffe9a8", .shape = {.weight = 0.17, .stretch = 1.2, .most = 96}});
         y += 42.5;
+    };
+    bool mixed_shown = false;
+    for (const line_row& w : line_rows) {
+        if (w.prize < mixed_sevens_prize && !std::exchange(mixed_shown, true))
+            win_row({symbol::rseven, symbol::bseven, symbol::rseven}, mixed_sevens_prize, "MIXED SEVENS");
+        const symbol s = symbol_of(w.symbol);
+        win_row({s, s, s}, w.prize, w.prize == jackpot_win ? "JACKPOT" : "");
     }
 }
 

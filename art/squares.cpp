@@ -1,6 +1,7 @@
 #include "art/bank.h"
 #include "art/lamps.h"
 #include "art/symbols.h"
+#include "panel/ring.h"
 
 #include <tuple>
 
@@ -102,28 +103,32 @@ struct square_face {
     void (*icon)(pen&, bool on);
 };
 
-constexpr square_face start{"", "START", "", ink::emerald, start_icon},
-    multi{"", "MULTI", "ADD", ink::amethyst, multi_icon}, cash1{"+1", "CASH", "", ink::ruby, coin_icon},
-    cash2{"+2", "CASH", "", ink::ruby, coin_icon}, shot1{"+1", "SHOT", "", ink::topaz, target_icon},
-    shots2{"+2", "SHOTS", "", ink::topaz, target_icon},
-    feature1{"+1", "FEATURE", "", ink::sapphire, feature_icon},
-    feature2{"+2", "FEATURE", "", ink::sapphire, feature_icon},
-    mystery{"", "", "", ink::amethyst, mystery_icon}, life{"", "EXTRA", "LIFE", ink::rose, heart_icon},
-    boost{"", "BOOST", "", ink::amber, boost_icon}, over{"", "GAME", "OVER", ink::onyx, skull_icon},
-    skill{"", "SKILL", "STOP", ink::teal, hand_icon}, bombed{"", "BOMB", "", ink::onyx, bomb_icon},
-    chance{"", "RANDOM", "STOP", ink::teal, dice_icon};
-
-constexpr const square_face* ring[24] = {
-    &start,  &multi,    &cash2,   &shot1,  &feature2, &mystery,  &cash2,  &life,
-    &shots2, &feature2, &mystery, &cash1,  &boost,    &feature1, &over,   &multi,
-    &shot1,  &feature1, &skill,   &bombed, &mystery,  &shots2,   &chance, &over,
+// clang-format off
+constexpr square_face faces[] = { // by square
+    {"",   "START",   "",     ink::emerald,  start_icon},
+    {"",   "MULTI",   "ADD",  ink::amethyst, multi_icon},
+    {"+1", "CASH",    "",     ink::ruby,     coin_icon},
+    {"+2", "CASH",    "",     ink::ruby,     coin_icon},
+    {"+1", "SHOT",    "",     ink::topaz,    target_icon},
+    {"+2", "SHOTS",   "",     ink::topaz,    target_icon},
+    {"+1", "FEATURE", "",     ink::sapphire, feature_icon},
+    {"+2", "FEATURE", "",     ink::sapphire, feature_icon},
+    {"",   "",        "",     ink::amethyst, mystery_icon},
+    {"",   "EXTRA",   "LIFE", ink::rose,     heart_icon},
+    {"",   "BOOST",   "",     ink::amber,    boost_icon},
+    {"",   "GAME",    "OVER", ink::onyx,     skull_icon},
+    {"",   "SKILL",   "STOP", ink::teal,     hand_icon},
+    {"",   "RANDOM",  "STOP", ink::teal,     dice_icon},
+    {"",   "BOMB",    "",     ink::onyx,     bomb_icon},
 };
+// clang-format on
+static_assert(std::size(faces) == square_kinds);
 
 } // namespace
 
 void draw_square(pen& p, int which) {
     const bool on = which >= lit;
-    const square_face& f = *ring[which % lit - 1];
+    const square_face& f = faces[static_cast<std::size_t>(ring[static_cast<std::size_t>(which % lit - 1)])];
     cap(p, {2, 2, 60, 54}, 7, f.glass, on, 2.5);
     if (on)
         box(p, 5, 5, 54, 48, 6, {.fill = ink::white, .fill_opacity = 0.2});

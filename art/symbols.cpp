@@ -2,18 +2,15 @@
 
 #include "art/letters.h"
 
+#include <algorithm>
 #include <tuple>
 
 namespace hustle {
 
 namespace {
 
-constexpr stop_picture stops[16] = {
-    {symbol::bell, 0},   {symbol::coin, 0},   {symbol::bseven, 0}, {symbol::bar, 1},
-    {symbol::cherry, 3}, {symbol::melon, 0},  {symbol::coin, 0},   {symbol::rseven, 0},
-    {symbol::cherry, 3}, {symbol::coin, 0},   {symbol::bar, 1},    {symbol::bseven, 0},
-    {symbol::melon, 0},  {symbol::rseven, 2}, {symbol::coin, 0},   {symbol::cherry, 0},
-};
+constexpr std::string_view words[] = {"rseven", "bseven", "bell", "bar",
+                                      "melon",  "cherry", "pound"}; // by symbol
 
 void shadow(pen& p, double y, double rx) { glow(p, 0, y, rx, 7, "#3a2410", 0.55); }
 
@@ -178,7 +175,9 @@ void coin(pen& p, money sign) {
 
 } // namespace
 
-std::span<const stop_picture, 16> strip() { return stops; }
+symbol symbol_of(std::string_view word) {
+    return static_cast<symbol>(std::find(std::begin(words), std::end(words), word) - std::begin(words));
+}
 
 void draw(pen& p, symbol which, money sign) {
     switch (which) {

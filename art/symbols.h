@@ -4,7 +4,7 @@
 
 #include "art/pen.h"
 
-#include <span>
+#include <string_view>
 
 namespace hustle {
 
@@ -13,11 +13,6 @@ enum class money { pounds, dollars };
 
 void draw(pen&, symbol, money = money::pounds);
 
-// One stop of the strip: what stands on the win line and the number it gives to the trail.
-struct stop_picture {
-    symbol sign;
-    int number; // 0: none
-};
-std::span<const stop_picture, 16> strip(); // stop 1 first
+symbol symbol_of(std::string_view word); // as the machine names one of the seven
 
 } // namespace hustle

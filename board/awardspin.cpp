@@ -4,6 +4,7 @@
 
 #include "core/play.h"
 #include "core/reels.h"
+#include "panel/prizes.h"
 #include "panel/text.h"
 
 #include <cmath>
@@ -46,7 +47,7 @@ constexpr prize_row winspin_rows[] = {
     {{"bar",    "bar",    "bar"},    {sbc, sbc, pbs},  5.00F},
     {{"bar",    "bar",    "bar"},    {sbc, sbc, pbs},  5.00F},
     {{"rseven", "rseven", "rseven"}, {psc, psc, psc},  8.00F},
-    {{"bell",   "bell",   "bell"},   {cbp, cbp, cbp}, 15.00F},
+    {{"bell",   "bell",   "bell"},   {cbp, cbp, cbp}, jackpot_win},
 };
 // clang-format on
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/game.h"
+#include "panel/prizes.h"
 
 namespace hustle {
 
@@ -19,9 +20,8 @@ void dark_cash(game&, int rung);
 bool cash_is_dark(const game&, int rung);
 void light_feature(game&, int rung);
 void dark_feature(game&, int rung);
-inline constexpr single jackpot_win = 15; // pounds: the top rung
-single cash_value(int rung);              // pounds; rung 4 reads 2.40 and is worth 3.00
-int rung_of(single win);                  // 0 where no rung from 1 to 9 has that value
+single cash_value(int rung); // pounds; rung 4 reads 2.40 and is worth 3.00
+int rung_of(single win);     // 0 where no rung from 1 to 9 has that value
 void lightcashvalue(game&);
 void fillcashladder(game&);
 void clearcashladder(game&);

@@ -133,7 +133,7 @@ void feature_bonus_win(game& g) {
 
 void feature_unload(game& g) {
     panel& p = g.p;
-    midi(g, "stop mid1");
+    midi(g, tune::stop);
     hide(p, trailheld);
     stop_timer(p, timer::trail_flash);
     stop_timer(p, timer::feature_flashing_lights);

@@ -16,7 +16,7 @@ constexpr look feature_dark = {0xFF0000, 0x000000};
 constexpr look feature_lit = {0xFF8080, 0x00FFFF};
 
 // Pounds, from the bottom rung up.
-constexpr single values[] = {1.00F, 1.60F, 2.00F, 3.00F, 3.60F, 4.00F, 5.00F, 6.00F, 8.00F, 15.00F};
+constexpr single values[] = {1.00F, 1.60F, 2.00F, 3.00F, 3.60F, 4.00F, 5.00F, 6.00F, 8.00F, jackpot_win};
 
 void give(game& g, element label, look l) {
     set_back(g.p, label, l.back);

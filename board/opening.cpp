@@ -169,7 +169,7 @@ void feature_exchange_effect(game& g) {
         set(n, n - 1);
         return;
     }
-    midi(g, "play mid1 from 0");
+    midi(g, tune::play);
     board_line(g, "      * HOARD HUSTLE *");
     light_square(g, 1);
     stop_timer(g.p, timer::feature_exchange_effect);

@@ -67,7 +67,7 @@ void jackpotrepeater(game& g) {
     g.m.award = award::jackpot;
     board_line(g, "    * JACKPOT REPEATER *");
     play(g, sound::jackpot);
-    midi(g, "stop mid1");
+    midi(g, tune::stop);
     start_timer(p, timer::feature_flashing_lights);
 }
 

@@ -1,5 +1,6 @@
 // What each square of the ring does when the token comes to rest on it.
 #include "board/board.h"
+#include "panel/ring.h"
 
 namespace hustle {
 
@@ -81,28 +82,24 @@ struct landing {
     int n = 0;
 };
 // clang-format off
-constexpr landing starting = {"      * PRESS START *",     nothing};
-constexpr landing multi    = {"       * MULTI ADD *",      multi_add,    1};
-constexpr landing cash1    = {"      * ADDING CASH *",     add_cash,     1};
-constexpr landing cash2    = {"      * ADDING CASH *",     add_cash,     2};
-constexpr landing shot1    = {"      * ADDING SHOTS *",    add_shots,    1};
-constexpr landing shot2    = {"      * ADDING SHOTS *",    add_shots,    2};
-constexpr landing feature1 = {"    * ADDING FEATURES *",   add_features, 1};
-constexpr landing feature2 = {"    * ADDING FEATURES *",   add_features, 2};
-constexpr landing question = {"      *** MYSTERY ***",     mystery};
-constexpr landing life     = {"       * EXTRA LIFE *",     extra_life};
-constexpr landing boosting = {"         * BOOST *",        boost};
-constexpr landing gameover = {"     *** GAME OVER ***",    game_over};
-constexpr landing skill    = {"       * SKILL STOP *",     skill_stop};
-constexpr landing bombing  = {"       * EXTRA BOMB *",     bomb};
-constexpr landing random   = {"      * RANDOM STOP *",     random_stop};
-
-constexpr landing squares[24] = {
-    starting, multi,    cash2, shot1,    feature2, question, // 1 to 6
-    cash2,    life,     shot2, feature2, question, cash1,    // 7 to 12
-    boosting, feature1, gameover, multi, shot1,    feature1, // 13 to 18
-    skill,    bombing,  question, shot2, random,   gameover, // 19 to 24
+constexpr landing landings[] = { // by square
+    {"      * PRESS START *",     nothing},
+    {"       * MULTI ADD *",      multi_add,    1},
+    {"      * ADDING CASH *",     add_cash,     1},
+    {"      * ADDING CASH *",     add_cash,     2},
+    {"      * ADDING SHOTS *",    add_shots,    1},
+    {"      * ADDING SHOTS *",    add_shots,    2},
+    {"    * ADDING FEATURES *",   add_features, 1},
+    {"    * ADDING FEATURES *",   add_features, 2},
+    {"      *** MYSTERY ***",     mystery},
+    {"       * EXTRA LIFE *",     extra_life},
+    {"         * BOOST *",        boost},
+    {"     *** GAME OVER ***",    game_over},
+    {"       * SKILL STOP *",     skill_stop},
+    {"      * RANDOM STOP *",     random_stop},
+    {"       * EXTRA BOMB *",     bomb},
 };
+static_assert(std::size(landings) == square_kinds);
 // clang-format on
 
 } // namespace
@@ -110,7 +107,8 @@ constexpr landing squares[24] = {
 void landsquare(game& g) {
     if (g.b.boardpos < 1 || g.b.boardpos > 24)
         return;
-    const landing& here = squares[g.b.boardpos - 1];
+    const square resting = ring[static_cast<std::size_t>(g.b.boardpos - 1)];
+    const landing& here = landings[static_cast<std::size_t>(resting)];
     board_line(g, here.line);
     here.act(g, here.n);
 }

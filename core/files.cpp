@@ -30,13 +30,18 @@ struct line_reader {
         return text;
     }
 
-    template <class Number> Number number() {
+    std::string_view figures() {
         std::string_view text = line();
         while (text.starts_with(' '))
             text.remove_prefix(1);
         while (text.ends_with(' '))
             text.remove_suffix(1);
-        Number value{};
+        return text;
+    }
+
+    count number() {
+        const std::string_view text = figures();
+        count value = 0;
         const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
         if (error != std::errc{} || end != text.data() + text.size())
             damaged = true;
@@ -44,14 +49,15 @@ struct line_reader {
     }
 
     single amount() {
-        const single value = number<single>();
-        if (!std::isfinite(value))
+        std::string_view behind;
+        const std::optional<single> value = number_at(figures(), behind);
+        if (!value || !behind.empty() || !std::isfinite(*value))
             damaged = true;
-        return value;
+        return value.value_or(0);
     }
 
     count position() {
-        const count value = number<count>();
+        const count value = number();
         if (value < 1 || value > 16)
             damaged = true;
         return value;
@@ -164,10 +170,10 @@ bool read_game_text(machine& m, std::string_view text) {
     in.line(); // carries nothing, and counts
     for (count machine::*value : {&machine::reel1pos, &machine::reel2pos, &machine::reel3pos})
         read.*value = in.position();
-    read.reelspeed = in.number<count>();
+    read.reelspeed = in.number();
     read.soundstate = in.word();
     read.flashlogo = in.word();
-    read.ledcolour = in.number<count>();
+    read.ledcolour = in.number();
     read.currency = in.word();
     if (in.damaged)
         return false;

@@ -212,9 +212,9 @@ inline void play(game& g, sound s) {
     if (g.m.soundstate == setting::on)
         g.w.play(s);
 }
-inline void midi(game& g, std::string_view command) {
+inline void midi(game& g, tune what) {
     if (g.m.soundstate == setting::on)
-        g.w.midi(command);
+        g.w.midi(what);
 }
 
 // The text line of main, and that of the board.

@@ -8,26 +8,6 @@
 
 namespace hustle {
 
-// clang-format off
-const std::array<stop_row, 16> strip = {{
-    {"bell",   art::cbp, 0}, // 1
-    {"pound",  art::bps, 0},
-    {"bseven", art::psb, 0},
-    {"bar",    art::sbc, 1},
-    {"cherry", art::bcm, 3}, // 5
-    {"melon",  art::cmp, 0},
-    {"pound",  art::mps, 0},
-    {"rseven", art::psc, 0},
-    {"cherry", art::scp, 3},
-    {"pound",  art::cpb, 0}, // 10
-    {"bar",    art::pbs, 1},
-    {"bseven", art::bsm, 0},
-    {"melon",  art::sms, 0},
-    {"rseven", art::msp, 2},
-    {"pound",  art::spc, 0}, // 15
-    {"cherry", art::pcb, 0},
-}};
-
 namespace {
 
 // A promised symbol is shown by these pictures; position and number stay as they were.
@@ -35,6 +15,7 @@ struct forced_row {
     word symbol;
     art pictures[3];
 };
+// clang-format off
 constexpr forced_row forced[] = {
     {"cherry", {art::bcm, art::bcm, art::bcm}},
     {"bell",   {art::cbp, art::cbp, art::cbp}},

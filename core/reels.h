@@ -2,18 +2,12 @@
 #pragma once
 
 #include "core/game.h"
+#include "panel/strip.h"
 
 #include <array>
 
 namespace hustle {
 
-struct stop_row {
-    word symbol;
-    art picture;
-    count number; // of the number trail, 0 to 3
-};
-// The strip that all three reels carry; stop n is strip[n - 1].
-extern const std::array<stop_row, 16> strip;
 inline const stop_row& strip_stop(int position) {
     return strip[static_cast<std::size_t>(position - 1) % strip.size()];
 }

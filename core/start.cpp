@@ -53,7 +53,7 @@ void reset_game(game& g, std::int64_t clock) {
 void software_load(game& g) {
     readfiles(g);
     // The tune stays open for the whole run; this one command passes no gate.
-    g.w.midi("open \"" + g.w.tune_path() + "\" type sequencer  alias mid1");
+    g.w.midi(tune::open);
 }
 
 void software_Timer1(game& g) {
@@ -94,7 +94,7 @@ void main_focus(game& g) {
 void exitroutine(game& g) {
     if (g.m.exiting == 1 && close_score_screen(g))
         return;
-    midi(g, "close mid1");
+    midi(g, tune::close);
     g.m.exiting = 1;
     savegame(g);
     if (score_counts(g))

@@ -1,20 +1,11 @@
 #include "core/wins.h"
 
 #include "core/reels.h"
+#include "panel/prizes.h"
 
 namespace hustle {
 
 namespace {
-
-struct line_row {
-    word symbol; // three of it on the win line
-    single prize;
-};
-constexpr line_row lines[] = {
-    {"bell", 15.00f}, {"rseven", 8.00f}, {"bseven", 6.00f}, {"bar", 5.00f},
-    {"melon", 4.00f}, {"cherry", 2.00f}, {"pound", 1.00f},
-};
-constexpr single mixed_sevens = 1.60f;
 
 bool is_seven(word symbol) { return symbol == "rseven" || symbol == "bseven"; }
 
@@ -31,12 +22,12 @@ bool any_pair(const machine& m) {
 
 single line_prize(word a, word b, word c) {
     if (a == b && b == c) {
-        for (const line_row& row : lines)
+        for (const line_row& row : line_rows)
             if (row.symbol == a)
                 return row.prize;
         return 0;
     }
-    return is_seven(a) && is_seven(b) && is_seven(c) ? mixed_sevens : 0;
+    return is_seven(a) && is_seven(b) && is_seven(c) ? mixed_sevens_prize : 0;
 }
 
 bool forms_pair(word a, word b) {
@@ -46,12 +37,12 @@ bool forms_pair(word a, word b) {
 
 single line_prize(const machine& m) {
     if (m.reel1sym == m.reel2sym && m.reel2sym == m.reel3sym) {
-        for (const line_row& row : lines)
+        for (const line_row& row : line_rows)
             if (row.symbol == m.reel1sym)
                 return row.prize;
         return 0;
     }
-    return is_seven(m.reel1sym) && is_seven(m.reel2sym) && is_seven(m.reel3sym) ? mixed_sevens : 0;
+    return is_seven(m.reel1sym) && is_seven(m.reel2sym) && is_seven(m.reel3sym) ? mixed_sevens_prize : 0;
 }
 
 void checkline(game& g) {

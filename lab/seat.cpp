@@ -33,7 +33,7 @@ void boot_to_main(game& g) {
 }
 
 void tell_start(const seat& s, std::string& script) {
-    script += "file game.dat\n";
+    script.append("file ").append(name(store::game_dat)).append("\n");
     const std::string& text = *s.world.files[0];
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = text.find("\r\n", at);

@@ -226,6 +226,8 @@ inline constexpr std::size_t sound_count = 0 HUSTLE_SOUNDS(HUSTLE_ONE);
 #undef HUSTLE_ENUMERATOR
 #undef HUSTLE_ONE
 
+enum class tune : std::uint8_t { open, play, stop, close }; // what the one tune is to do; play begins it anew
+
 enum class store : std::uint8_t { game_dat, hscore_dat }; // the two stored files
 
 // The n-th of a family that stands in a row: nth(element::hold1, 3) is hold3. n counts from 1.

@@ -137,9 +137,13 @@ bool take_tick(panel& p, std::int64_t until, timer& which) {
         return false;
     const armed_timer tick = p.queue[0];
     p.now = std::max(p.now, tick.due);
-    disarm(p, tick.what);
-    const std::int64_t next = tick.due + interval(p, tick.what);
-    arm(p, tick.what, next < p.now ? p.now + interval(p, tick.what) : next);
+    const int pause = interval(p, tick.what);
+    const std::int64_t next = tick.due + pause < p.now ? p.now + pause : tick.due + pause;
+    // It goes behind all that are due by then, which move up by one.
+    std::size_t place = 1;
+    for (; place < static_cast<std::size_t>(p.queued) && p.queue[place].due <= next; ++place)
+        p.queue[place - 1] = p.queue[place];
+    p.queue[place - 1] = {next, tick.what};
     which = tick.what;
     return true;
 }

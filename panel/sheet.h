@@ -36,6 +36,9 @@ enum class kind : std::uint8_t {
     entry, // a menu entry
 };
 
+// The kinds that take a press of the mouse.
+constexpr bool takes_press(kind k) { return k == kind::button || k == kind::clicked || k == kind::push; }
+
 struct element_row {
     element id;
     screen where;

@@ -16,8 +16,7 @@ struct stillworld : world {
 
     int draw(int n) override { return splitmix_draw(state, n); }
     void play(sound) override {}
-    void midi(std::string_view) override {}
-    std::string tune_path() override { return "sounds/hustle.mid"; }
+    void midi(tune) override {}
     bool box(const message& m) override { return !m.yes_or_no; }
     void wait(int) override {}
     std::optional<std::string> read(store s) override { return files[static_cast<int>(s)]; }

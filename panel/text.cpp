@@ -1,7 +1,10 @@
 #include "panel/text.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
+#include <cmath>
+#include <cstdlib>
 #include <cstring>
 
 namespace hustle {
@@ -36,6 +39,32 @@ short_text two_decimals(std::string_view number) {
     if (decimals.size() > 2 && decimals[2] >= '5')
         round_up(result);
     return result;
+}
+
+// Writes a number that is not negative, with at least so many digits.
+void add_digits(short_text& text, unsigned number, int least = 1) {
+    char digits[10];
+    int from = 10;
+    for (; number > 0 || from > 10 - least; number /= 10)
+        digits[--from] = static_cast<char>('0' + number % 10);
+    text.add({digits + from, static_cast<std::size_t>(10 - from)});
+}
+
+// "Fixed" form of an amount below a thousand that lies clearly nearer to one penny than to the next:
+// for it no decimal has to be found first. False for any other.
+bool whole_pence(float amount, short_text& text) {
+    const double pence = std::abs(static_cast<double>(amount)) * 100;
+    if (!(pence < 100000))
+        return false;
+    const auto nearest = static_cast<unsigned>(pence + 0.5);
+    if (std::abs(pence - nearest) > 0.49) // a half to the last place of a single
+        return false;
+    if (amount < 0 && nearest > 0)
+        text.add("-");
+    add_digits(text, nearest / 100);
+    text.add(".");
+    add_digits(text, nearest % 100, 2);
+    return true;
 }
 
 // The two parts of an amount: its sign ("-" or nothing) and its size to two decimals.
@@ -73,6 +102,10 @@ short_text& short_text::blanks(int n) {
 
 short_text plain(float value) {
     short_text text;
+    if (value >= 0 && value < 1e6F && value == static_cast<float>(static_cast<unsigned>(value))) {
+        add_digits(text, static_cast<unsigned>(value));
+        return text;
+    }
     const auto [end, error] = std::to_chars(text.data.data(), text.data.data() + text.data.size() - 1, value,
                                             std::chars_format::fixed);
     text.length = static_cast<std::size_t>(end - text.data.data());
@@ -86,7 +119,31 @@ short_text plain(int value) {
     return text;
 }
 
+std::optional<float> number_at(std::string_view text, std::string_view& rest) {
+    float value = 0;
+#ifdef __cpp_lib_to_chars
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{})
+        return std::nullopt;
+    rest = text.substr(static_cast<std::size_t>(end - text.data()));
+#else // a library that reads whole numbers alone: strtof rounds as exactly, of what may stand in a decimal
+    const short_text decimal = text.substr(0, text.find_first_not_of("0123456789.-eE+"));
+    short_text closed = decimal;
+    closed.data[closed.length] = '\0';
+    char* end = nullptr;
+    errno = 0;
+    value = std::strtof(closed.data.data(), &end);
+    if (end == closed.data.data() || closed.data[0] == '+' ||
+        (errno == ERANGE && (value == 0 || std::isinf(value))))
+        return std::nullopt;
+    rest = text.substr(static_cast<std::size_t>(end - closed.data.data()));
+#endif
+    return value;
+}
+
 short_text fixed(float amount) {
+    if (short_text text; whole_pence(amount, text))
+        return text;
     const signed_amount parts = amount_of(amount);
     short_text text(parts.sign);
     return text.add(parts.size);

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace hustle {
@@ -27,6 +28,9 @@ short_text fixed(float amount);
 // "20", "0.2", "80.19802".
 short_text plain(float value);
 short_text plain(int value);
+// The 32-bit value nearest to a decimal at the start of `text`, which has no blank and no plus in front;
+// `rest` is what stands behind the number. Nothing where there is no number or none so large or small.
+std::optional<float> number_at(std::string_view text, std::string_view& rest);
 // An amount in pounds as the UK writes it: "£1,234.50", "-£0.80".
 short_text uk_currency(float amount);
 

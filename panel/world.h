@@ -27,10 +27,8 @@ struct world {
     virtual int draw(int n) = 0;
     // Plays a wave at once and returns; it ends the one that plays. Silence if it cannot.
     virtual void play(sound) = 0;
-    // A command for the tune: "open ...", "play mid1 from 0", "stop mid1", "close mid1".
-    virtual void midi(std::string_view command) = 0;
-    // The full path of the tune, as the open command names it.
-    virtual std::string tune_path() = 0;
+    // What the tune is to do. It is opened once, before anything else is asked of it.
+    virtual void midi(tune) = 0;
     // A modal box; true for Yes and for OK. No tick and no other input arrives meanwhile.
     virtual bool box(const message&) = 0;
     // Holds the machine for so many milliseconds; the window goes on painting.

@@ -4,6 +4,7 @@
 
 #include "core/game.h"
 #include "panel/stillworld.h"
+#include "script/scriptworld.h"
 
 #include <cstdint>
 #include <span>
@@ -46,7 +47,7 @@ struct monkeyworld final : stillworld {
     std::uint64_t heard = 0; // of all that sounded, was asked or was waited for
 
     void play(sound s) override { hear(static_cast<std::uint64_t>(s) + 1); }
-    void midi(std::string_view command) override { hear(command.size() + 200); }
+    void midi(tune what) override { hear(command_text(what).size() + 200); }
     void wait(int ms) override { hear(static_cast<std::uint64_t>(ms) + 1000); }
     bool box(const message& m) override {
         hear(m.text.size() + 100);

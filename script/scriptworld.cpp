@@ -57,7 +57,14 @@ void scriptworld::play(sound s) {
     tell("sound ", name(s));
 }
 
-void scriptworld::midi(std::string_view command) {
+std::string_view command_text(tune what) {
+    constexpr std::string_view commands[] = {R"(open "sounds/hustle.mid" type sequencer  alias mid1)",
+                                             "play mid1 from 0", "stop mid1", "close mid1"};
+    return commands[static_cast<std::size_t>(what)];
+}
+
+void scriptworld::midi(tune what) {
+    const std::string_view command = command_text(what);
     append(commands, ";", command);
     tell("midi ", command);
 }

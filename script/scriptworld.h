@@ -13,6 +13,10 @@ namespace hustle::script {
 
 enum class answer : std::uint8_t { yes, no, ok };
 
+// What a script and its trace call a command for the tune: "open ...", "play mid1 from 0", "stop mid1",
+// "close mid1".
+std::string_view command_text(tune);
+
 struct scriptworld final : world {
     struct stored {
         bool there = false;
@@ -40,8 +44,7 @@ struct scriptworld final : world {
 
     int draw(int n) override;
     void play(sound) override;
-    void midi(std::string_view command) override;
-    std::string tune_path() override { return "sounds/hustle.mid"; }
+    void midi(tune) override;
     bool box(const message&) override;
     void wait(int ms) override;
     std::optional<std::string> read(store) override;

@@ -16,7 +16,7 @@ void fastcash_live(game& g) {
     g.b.readystep = 1;
     clearcashladder(g);
     start_timer(g.p, timer::feature_fastcash);
-    midi(g, "stop mid1");
+    midi(g, tune::stop);
     play(g, sound::fastcash);
     stop_timer(g.p, timer::feature_start_fastcash);
 }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 namespace hustle {
 
@@ -28,7 +27,7 @@ void belt_live(game& g) {
     g.b.beltstep = 1;
     g.b.beltphase = 1;
     enable(g.p, feature_stopfeature);
-    midi(g, "stop mid1");
+    midi(g, tune::stop);
     play(g, sound::fastcash);
 }
 
@@ -75,10 +74,8 @@ void run_on(game& g) {
 // Takes the blanks in front off the window and reads the price that stands there.
 single next_price(word& window) {
     window.remove_prefix(std::min(window.find_first_not_of(' '), window.size()));
-    const word figures = window.substr(0, 4);
-    single price = 0;
-    std::from_chars(figures.data(), figures.data() + figures.size(), price);
-    return price;
+    word rest;
+    return number_at(window.substr(0, 4), rest).value_or(0.0F);
 }
 
 void skip_price(word& window) { window.remove_prefix(std::min<std::size_t>(4, window.size())); }

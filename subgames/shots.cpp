@@ -73,7 +73,7 @@ void give_up(game& g) {
 
 // The last shot's prize must be taken.
 void end_shots(game& g) {
-    if (g.m.win == 15.0f) {
+    if (g.m.win == jackpot_win) {
         jackpotrepeater(g);
         return;
     }
@@ -90,7 +90,7 @@ void shots_live(game& g) {
     stop_timer(g.p, timer::feature_start_shots);
     start_timer(g.p, timer::feature_shots_timer);
     g.b.shotsatstart = g.b.shots;
-    midi(g, "stop mid1");
+    midi(g, tune::stop);
     play(g, sound::fastcash);
 }
 

@@ -49,7 +49,7 @@ void stop_fastcash(game& g) {
     stop_timer(g.p, timer::feature_fastcash);
     disable(g.p, feature_stopfeature);
     g.b.readystep = 1;
-    if (g.m.win == 15.0f) {
+    if (g.m.win == jackpot_win) {
         jackpotrepeater(g);
         return;
     }

@@ -1,9 +1,13 @@
 #include "panel/sheet.h"
+#include "panel/text.h"
 #include "screens/handlers.h"
 #include "tests/testgame.h"
 
 #include <gtest/gtest.h>
 
+#include <charconv>
+#include <cmath>
+#include <cstdio>
 #include <set>
 
 namespace hustle {
@@ -12,8 +16,7 @@ namespace {
 TEST(Sheet, EveryButtonHasAnActionAndEveryElementLiesOnItsScreen) {
     for (const screen_row& s : screen_rows())
         for (const element_row& r : elements_of(s.id)) {
-            const bool acts = r.what == kind::button || r.what == kind::clicked || r.what == kind::push;
-            EXPECT_EQ(press_handler(r.id) != nullptr, acts) << r.name;
+            EXPECT_EQ(press_handler(r.id) != nullptr, takes_press(r.what)) << r.name;
             EXPECT_LE(r.place.left + r.place.width, s.width + 15) << r.name;
             EXPECT_LE(r.place.top + r.place.height, s.height) << r.name;
         }
@@ -30,6 +33,33 @@ TEST(Sheet, MenusReadAsPlayersKnowThem) {
         "Gnewgame G- Ggstat Ghscoretable Ginsertcoinmenu G- Gexitgame Ofreelspin Osreelspin Orreelspin O- "
         "Ods Ops O- Osoundon Osoundoff O- Oreddisp Opurpledisp Opinkdisp Obluedisp Oyellowdisp "
         "Ogreendisp O- Oflon Ofloff Hhelpcontents H- Hrguidemenu Hrwinmenu H- Hvisitweb H- Hhelpabout ");
+}
+
+// The fixed form by way of the shortest decimal, halves away from nought.
+std::string by_decimal(float amount) {
+    char text[64];
+    const auto end = std::to_chars(text, text + sizeof text, std::abs(amount), std::chars_format::fixed).ptr;
+    std::string number(text, end);
+    if (number.find('.') == std::string::npos)
+        number += '.';
+    const std::size_t point = number.find('.');
+    number += "000";
+    const long pence = std::stol(number.substr(0, point)) * 100 + std::stol(number.substr(point + 1, 2)) +
+                       (number[point + 3] >= '5' ? 1 : 0);
+    std::snprintf(text, sizeof text, "%s%ld.%02ld", amount < 0 && pence > 0 ? "-" : "", pence / 100,
+                  pence % 100);
+    return text;
+}
+
+TEST(Text, TellsAmountsOfWholePenceAndBesideThemAsTheShortestDecimalDoes) {
+    for (int tenths = 0; tenths < 1200000; tenths += 5) { // of a penny: the halves between are the hard ones
+        const float amount = static_cast<float>(tenths / 1000.0);
+        for (const float near :
+             {amount, std::nextafter(amount, 2000.0F), std::nextafter(amount, -1.0F), -amount})
+            ASSERT_EQ(std::string_view(fixed(near)), by_decimal(near)) << near;
+    }
+    for (const float whole : {0.0F, -0.0F, 20.0F, 999999.0F, 1e6F, -3.0F, 16777216.0F})
+        EXPECT_EQ(std::string_view(plain(whole)), std::to_string(static_cast<int>(whole)));
 }
 
 struct ticks {

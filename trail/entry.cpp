@@ -1,5 +1,6 @@
 // The run-up from main to the board: a little under two seconds of flashing panel and messages.
 #include "core/play.h"
+#include "panel/prizes.h"
 #include "panel/text.h"
 #include "trail/bonus.h"
 #include "trail/trail.h"
@@ -11,7 +12,6 @@ namespace {
 using enum element;
 
 constexpr int last_step = 29;
-constexpr single jackpot = 15;
 
 void nothing_to_play(game& g) {
     machine& m = g.m;
@@ -31,7 +31,7 @@ void nothing_to_play(game& g) {
 void tell_win(game& g) {
     const machine& m = g.m;
     play(g, sound::back);
-    if (m.win == jackpot)
+    if (m.win == jackpot_win)
         line(g, "      J A C K P O T");
     else if (m.trailvalue != 9)
         line(g, short_text("     YOU HAVE WON ").add(fixed(m.win)));
@@ -104,7 +104,7 @@ void feature_start(game& g) {
     if (m.awardwait == 2)
         tell_win(g);
     else if (m.awardwait == 15)
-        line(g, m.win == jackpot ? "     R E P E A T E R" : "   STARTING HOARD HUSTLE");
+        line(g, m.win == jackpot_win ? "     R E P E A T E R" : "   STARTING HOARD HUSTLE");
     else if (m.awardwait >= last_step) {
         open_board(g);
         return;

@@ -1,5 +1,6 @@
 // The repeat chance: after a jackpot, or a spin of the streak, does it happen again?
 #include "core/bank.h"
+#include "panel/prizes.h"
 #include "trail/bonus.h"
 
 namespace hustle {
@@ -13,7 +14,6 @@ enum class answer { no = 1, yes = 2, either }; // as `repeatphase` counts
 constexpr single streak_limit = 10;
 constexpr single low_band = 75, middle_band = 100; // of pcent
 constexpr int repeats_in_low_band = 3;
-constexpr single jackpot = 15;
 constexpr int intro_end = 10;
 
 // What the money has settled before the press. Only the middle band is left to the player's timing.
@@ -32,7 +32,7 @@ void answer_yes(game& g) {
         return;
     }
     add(m.credits, -1);
-    m.win = jackpot;
+    m.win = jackpot_win;
     start_timer(g.p, timer::wintobank);
     set(m.repeatcount, m.repeatcount + 1);
 }

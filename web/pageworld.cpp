@@ -30,8 +30,9 @@ void pageworld::play(sound wave) {
     page_play(static_cast<int>(wave));
 }
 
-void pageworld::midi(std::string_view command) {
-    said.midi(command);
+void pageworld::midi(tune what) {
+    said.midi(what);
+    const std::string_view command = script::command_text(what);
     page_midi(command.data(), bytes(command));
 }
 

@@ -21,8 +21,7 @@ struct pageworld final : world {
 
     int draw(int n) override;
     void play(sound) override;
-    void midi(std::string_view command) override;
-    std::string tune_path() override { return said.tune_path(); }
+    void midi(tune) override;
     bool box(const message&) override;
     void wait(int ms) override;
     std::optional<std::string> read(store) override;

@@ -30,12 +30,12 @@ constexpr const char* fonts[] = {
     "/usr/share/soundfonts/default.sf2",    "/usr/share/soundfonts/FluidR3_GM.sf2",
 };
 
-enum class what : std::uint8_t { wave, open_tune, play_tune, stop_tune, close_tune, volume };
+enum class what : std::uint8_t { wave, tune, volume };
 struct order {
     what kind;
     hustle::sound wave = {};
-    std::string path = {}; // of the tune, for open_tune
-    int percent = 100;     // for volume
+    hustle::tune tune = {};
+    int percent = 100; // for volume
 };
 
 // What the game's thread and the sound thread share, behind one lock.
@@ -112,8 +112,9 @@ void close_tune(mixer& m) {
     m.tune = nullptr;
 }
 
-void open_tune(mixer& m, const std::string& path) {
+void open_tune(mixer& m) {
     close_tune(m);
+    const std::string path = m.folder + "/hustle.mid";
     std::error_code ignored;
     const char* found = Mix_GetSoundFonts();
     if (found == nullptr || !std::filesystem::exists(path, ignored))
@@ -135,16 +136,22 @@ void play(mixer& m, hustle::sound wave) {
         Mix_PlayChannel(0, m.waves[at], 0);
 }
 
-void carry_out(mixer& m, const order& o) {
-    switch (o.kind) {
-    case what::wave: play(m, o.wave); break;
-    case what::open_tune: open_tune(m, o.path); break;
-    case what::play_tune:
+void obey(mixer& m, hustle::tune command) {
+    switch (command) {
+    case tune::open: open_tune(m); break;
+    case tune::play:
         if (m.tune != nullptr)
             Mix_PlayMusic(m.tune, 1);
         break;
-    case what::stop_tune: Mix_HaltMusic(); break;
-    case what::close_tune: close_tune(m); break;
+    case tune::stop: Mix_HaltMusic(); break;
+    case tune::close: close_tune(m); break;
+    }
+}
+
+void carry_out(mixer& m, const order& o) {
+    switch (o.kind) {
+    case what::wave: play(m, o.wave); break;
+    case what::tune: obey(m, o.tune); break;
     case what::volume: turn_volume(o.percent); break;
     }
 }
@@ -220,20 +227,7 @@ bool open_sound(const std::string& folder) {
 
 void play_wave(hustle::sound wave) { give({.kind = what::wave, .wave = wave}); }
 
-void tune_command(std::string_view command) {
-    if (command.starts_with("open \"")) {
-        const std::size_t first = command.find('"') + 1;
-        const std::size_t last = command.rfind('"');
-        if (last > first)
-            give({.kind = what::open_tune, .path = std::string(command.substr(first, last - first))});
-    } else if (command == "play mid1 from 0") {
-        give({.kind = what::play_tune});
-    } else if (command == "stop mid1") {
-        give({.kind = what::stop_tune});
-    } else if (command == "close mid1") {
-        give({.kind = what::close_tune});
-    }
-}
+void tune_command(hustle::tune command) { give({.kind = what::tune, .tune = command}); }
 
 void set_volume(int percent) {
     const std::scoped_lock held(shared.lock);

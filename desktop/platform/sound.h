@@ -7,7 +7,6 @@
 #include "panel/ids.h"
 
 #include <string>
-#include <string_view>
 
 namespace hustle::desktop {
 
@@ -16,9 +15,9 @@ namespace hustle::desktop {
 bool open_sound(const std::string& folder);
 // Plays a wave and returns at once; it ends the one that plays.
 void play_wave(hustle::sound wave);
-// A command for the tune: `open "PATH" type sequencer  alias mid1` loads it, `play mid1 from 0`
-// plays it once, `stop mid1` ends it, `close mid1` lets go of it. Any other is ignored.
-void tune_command(std::string_view command);
+// The tune, hustle.mid of that folder: `open` loads it, `play` plays it once from its beginning, `stop`
+// ends it, `close` lets go of it.
+void tune_command(hustle::tune);
 // How loud waves and tune are: percent of the loudest, 0 to 100; 0 is silence. It may be told before
 // the device is open, and holds until it is told anew.
 void set_volume(int percent);

@@ -77,14 +77,12 @@ void qtworld::play(sound wave) {
         play_wave(wave);
 }
 
-void qtworld::midi(std::string_view command) {
+void qtworld::midi(tune what) {
     if (heard)
-        tune_command(command);
-    else if (command.starts_with("open "))
-        tune_opening = command;
+        tune_command(what);
+    else if (what == tune::open)
+        tune_waits = true;
 }
-
-std::string qtworld::tune_path() { return (sounds + "/hustle.mid").toStdString(); }
 
 bool qtworld::box(const message& m) {
     const bool told_of_save = std::exchange(unsaved, false); // a replay's files never fail
@@ -230,8 +228,8 @@ void open_ears(qtworld& w) {
     if (w.heard)
         return;
     w.heard = open_sound(w.sounds.toStdString());
-    if (w.heard && !w.tune_opening.empty())
-        tune_command(w.tune_opening);
+    if (w.heard && w.tune_waits)
+        tune_command(tune::open);
 }
 
 } // namespace hustle::desktop

@@ -20,16 +20,15 @@ struct qtworld : world {
     bool saving = true;   // false: played without saving
     // Why a stored file must not be written over; empty: it may be.
     std::array<std::string, 2> untouchable;
-    QString sounds;           // folder of the waves and the tune
-    std::uint64_t state = 0;  // of the generator
-    bool repeats = false;     // the state was given: the clock is kept out of the draws
-    bool heard = false;       // the sound has been opened
-    std::string tune_opening; // the open command, kept until then
+    QString sounds;          // folder of the waves and the tune
+    std::uint64_t state = 0; // of the generator
+    bool repeats = false;    // the state was given: the clock is kept out of the draws
+    bool heard = false;      // the sound has been opened
+    bool tune_waits = false; // the tune is to be opened then
 
     int draw(int n) override;
     void play(sound) override;
-    void midi(std::string_view command) override;
-    std::string tune_path() override;
+    void midi(tune) override;
     bool box(const message&) override;
     void wait(int ms) override;
     std::optional<std::string> read(store) override;

@@ -22,10 +22,6 @@ constexpr int settle_ms = 150; // after the last change of size pictures are dra
 constexpr int twips_to_pixel = 15;
 constexpr int seen_letters = 15; // of a name, beside its score
 
-bool takes_mouse(const element_row& r) {
-    return r.what == kind::button || r.what == kind::clicked || r.what == kind::push;
-}
-
 // A text box that the player writes in; the others only show.
 bool is_edited(element e) { return e == element::Entername_Text1; }
 
@@ -194,7 +190,7 @@ bool screenview::draw_one_ahead() {
 element screenview::under(QPoint point) const {
     element found = element::total;
     for (const element_row& r : elements_of(what))
-        if (takes_mouse(r) && is_visible(played.g.p, r.id) && widget_rect(r.id).contains(point))
+        if (takes_press(r.what) && is_visible(played.g.p, r.id) && widget_rect(r.id).contains(point))
             found = r.id;
     return found;
 }

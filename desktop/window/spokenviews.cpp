@@ -66,10 +66,6 @@ private:
     bool by_keyboard = false; // the focus came by Tab and is shown
 };
 
-bool is_button(const element_row& r) {
-    return r.what == kind::button || r.what == kind::clicked || r.what == kind::push;
-}
-
 bool is_drawn_text(element e) { return e != element::Entername_Text1; }
 
 // A disabled button would pass its focus on to its neighbour; the screen keeps it safe instead and
@@ -121,7 +117,7 @@ void make_spoken(spoken_views& views, screenview& view) {
         if (r.what == kind::entry || !is_drawn_text(r.id) || (name.isEmpty() && r.what != kind::line))
             continue;
         QWidget* child = nullptr;
-        if (is_button(r))
+        if (takes_press(r.what))
             child = new spoken_button(view, r.id);
         else
             child = new QLabel(&view);

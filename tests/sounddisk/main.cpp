@@ -77,18 +77,18 @@ int main(int count, char** words) {
     fs::remove(raw, not_there);
     open_sound(folder);
     std::cout << sound_state() << '\n';
-    tune_command("open \"" + folder + "/hustle.mid\" type sequencer  alias mid1");
+    tune_command(hustle::tune::open);
     play_wave(hustle::sound::win);
     check(comes(raw, 0), "a wave is heard");
     check(falls_silent(raw), "the wave ends");
 
     const std::size_t before = written(raw);
-    tune_command("play mid1 from 0");
+    tune_command(hustle::tune::play);
     check(comes(raw, before), "the tune is heard");
-    tune_command("stop mid1");
+    tune_command(hustle::tune::stop);
     check(falls_silent(raw), "the tune stops");
 
-    tune_command("close mid1");
+    tune_command(hustle::tune::close);
     close_sound();
     play_wave(hustle::sound::win); // nobody hears it, nothing happens
     return failures;

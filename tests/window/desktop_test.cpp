@@ -73,7 +73,7 @@ TEST(Names, TellEveryButtonLampAndLine) {
     booted b;
     for (const screen_row& s : screen_rows())
         for (const element_row& r : elements_of(s.id))
-            if (r.what == kind::button || r.what == kind::clicked || r.what == kind::push) {
+            if (takes_press(r.what)) {
                 EXPECT_FALSE(spoken_name(b.g, r.id).empty()) << s.name << "." << r.name;
             }
     EXPECT_EQ(spoken_name(b.g, element::displayline), "Bank 0 pounds, 20 credits");

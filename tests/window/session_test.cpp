@@ -8,6 +8,7 @@
 #include "desktop/session/session.h"
 #include "desktop/session/watch.h"
 #include "desktop/window/mainwindow.h"
+#include "screens/events.h"
 #include "script/dump.h"
 
 #include <gtest/gtest.h>
