@@ -69,6 +69,27 @@ void quiet_play(benchmark::State& state) {
 }
 BENCHMARK(quiet_play);
 
+// For scale: no machine at all, only three stops drawn and the ledgers moved as a play moves them.
+void bare_loop(benchmark::State& state) {
+    stillworld w;
+    machine m;
+    for (auto _ : state) {
+        add(m.credits, -1);
+        add(m.streakbank, 0.04);
+        add(m.winbank, 0.16);
+        add(m.housecut, 0.05);
+        add(m.cashbox, 0.25);
+        int stops = 0;
+        for (int reel = 0; reel < 3; ++reel)
+            stops += w.draw(16);
+        add(m.moneyin, 0.25);
+        m.pcent = m.moneyout / m.moneyin * 100;
+        benchmark::DoNotOptimize(stops);
+        benchmark::DoNotOptimize(m);
+    }
+}
+BENCHMARK(bare_loop);
+
 void one_tick(benchmark::State& state) {
     stillworld w;
     const auto g = booted(w);
