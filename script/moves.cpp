@@ -3,7 +3,7 @@
 #include "core/upward.h"
 #include "panel/sheet.h"
 #include "panel/text.h"
-#include "screens/dispatch.h"
+#include "screens/events.h"
 #include "script/names.h"
 #include "script/operations.h"
 
@@ -105,6 +105,7 @@ std::span<const word> award_words() { return awards; }
 void make(game& g, monkeyworld& w, const move& m) {
     w.yes = m.what == deed::press_yes;
     row(m.what).make(g, m.value);
+    settle(g); // of an operation that was called
 }
 
 std::string written(std::uint64_t seed, std::span<const move> moves) {
