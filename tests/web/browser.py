@@ -1,5 +1,4 @@
 """A headless Chromium with the page in it, and the few things that tests do to it."""
-import json
 import os
 import pathlib
 import subprocess
@@ -91,10 +90,11 @@ class Browser:
         self.until(f"document.querySelector('dialog[open] [data-element=\"box.{name}\"]') !== null")
         self.at(f"box.{name}").click()
 
-    # Starts as a player does who has no wish about flashing.
+    # Starts as a player does who has no wish about flashing; a page with a seed does not ask.
     def start_as_player(self, query="", page=PAGE):
         self.open(query, page)
-        self.answer("asitis")
+        if query == "":
+            self.answer("asitis")
         self.ready()
         self.until("hustle.get('main.loaded')")
 
@@ -108,10 +108,6 @@ def play_script(text):
 
 def script_hash(text):
     return play_script(text + "\nhash\n").strip().splitlines()[-1].removeprefix("hash = ")
-
-
-def told(text):
-    return json.dumps(text)
 
 
 def main(tests):

@@ -3,7 +3,7 @@
 import itertools
 import random
 
-from browser import PAGE, Browser, main, play_script, script_hash
+from browser import Browser, main, play_script, script_hash
 
 BUTTONS = ["main.start", "main.hold1", "main.hold2", "main.hold3", "main.cancelbutton", "main.stopper",
            "main.transfer", "feature.hibutton", "feature.lobutton", "feature.collect",
