@@ -10,7 +10,7 @@ namespace {
 
 using enum element;
 
-constexpr int top_rung = 10;
+constexpr count top_rung = 10;
 constexpr std::string_view your_turn = "    CONTINUE OR COLLECT";
 
 struct ladder {
@@ -28,7 +28,7 @@ bool start_fall(game& g, ladder& l) {
     l.light(g, top_rung);
     if (l.rung != top_rung - 1)
         return false;
-    set(l.rung, top_rung);
+    l.rung = top_rung;
     l.steps = 0;
     stop_timer(g.p, l.ticks);
     jackpotrepeater(g);
@@ -37,16 +37,16 @@ bool start_fall(game& g, ladder& l) {
 
 // The light on a lower rung; true when it has come to rest on the bar.
 bool fall(game& g, ladder& l) {
-    const int r = l.run;
+    const count r = l.run;
     if (r < 1)
         return false;
     l.dark(g, r + 1);
     l.light(g, r);
     if (r < 2 || l.rung != r - 1)
         return false;
-    set(l.run, top_rung);
-    set(l.rung, r);
-    set(l.steps, l.steps - 1);
+    l.run = top_rung;
+    l.rung = r;
+    --l.steps;
     return true;
 }
 
@@ -65,7 +65,7 @@ void add_tick(game& g, ladder l, int rival) {
     }
     if (l.run == top_rung ? start_fall(g, l) : fall(g, l))
         return;
-    set(l.run, l.run > 1 ? l.run - 1 : top_rung);
+    l.run = before_of(l.run, top_rung);
 }
 
 } // namespace
@@ -87,8 +87,8 @@ void feature_featureadd(game& g) {
 void feature_shotadd(game& g) {
     board& b = g.b;
     play(g, sound::add);
-    set(b.shots, b.shots + 1);
-    set(b.shotsteps, b.shotsteps - 1);
+    ++b.shots;
+    --b.shotsteps;
     set_caption(g.p, feature_shotbox, plain(b.shots).add("  "));
     if (b.shotsteps > 0)
         return;

@@ -2,8 +2,7 @@
 // ends. The rows and the reels' stops stand in awardspin.cpp.
 #include "board/reelawards.h"
 
-#include <limits>
-#include <span>
+#include "core/bands.h"
 
 namespace hustle {
 
@@ -11,35 +10,20 @@ namespace {
 
 using enum element;
 
-constexpr single no_end = std::numeric_limits<single>::infinity();
-
-// How far into its table a draw may reach at a payout percentage; the first row whose limit is not
-// passed decides. A reach of 0 draws nothing, and the row of the last spin stands.
-enum class limit { below, upto };
-struct reach_row {
-    limit kind;
-    single pcent;
-    int reach;
-};
-constexpr reach_row seven_reach[] = {
-    {limit::upto, 75, 3}, {limit::below, 76, 0}, {limit::upto, 85, 2}, {limit::upto, no_end, 1}};
-constexpr reach_row pick_reach[] = {{limit::upto, 70, 8},  {limit::below, 71, 0},   {limit::upto, 75, 7},
-                                    {limit::below, 76, 0}, {limit::upto, 80, 6},    {limit::below, 81, 0},
-                                    {limit::upto, 90, 4},  {limit::upto, no_end, 3}};
-constexpr reach_row win_reach[] = {{limit::below, 70, 8},    {limit::below, 70.1F, 0}, {limit::upto, 80, 6},
-                                   {limit::upto, 82, 4},     {limit::below, 82.1F, 0}, {limit::upto, 90, 3},
-                                   {limit::below, 90.1F, 0}, {limit::upto, no_end, 2}};
-
-int reach_of(const game& g, std::span<const reach_row> rows) {
-    for (const reach_row& r : rows)
-        if (r.kind == limit::below ? g.m.pcent < r.pcent : g.m.pcent <= r.pcent)
-            return r.reach;
-    return 0;
-}
+// How far into its table a draw may reach. A reach of 0 draws nothing, and the row of the last spin
+// stands.
+constexpr band seven_reach[] = {
+    {edge::upto, 75, 3}, {edge::below, 76, 0}, {edge::upto, 85, 2}, {edge::upto, no_limit, 1}};
+constexpr band pick_reach[] = {{edge::upto, 70, 8},  {edge::below, 71, 0},     {edge::upto, 75, 7},
+                               {edge::below, 76, 0}, {edge::upto, 80, 6},      {edge::below, 81, 0},
+                               {edge::upto, 90, 4},  {edge::upto, no_limit, 3}};
+constexpr band win_reach[] = {{edge::below, 70, 8},    {edge::below, 70.1F, 0},  {edge::upto, 80, 6},
+                              {edge::upto, 82, 4},     {edge::below, 82.1F, 0},  {edge::upto, 90, 3},
+                              {edge::below, 90.1F, 0}, {edge::upto, no_limit, 2}};
 
 void draw_row(game& g, count& row, int reach) {
     if (reach > 0)
-        set(row, draw(g, reach));
+        row = draw(g, reach);
 }
 
 void start_spin(game& g) { start_timer(g.p, timer::spinreel1); }
@@ -47,10 +31,8 @@ void start_spin(game& g) { start_timer(g.p, timer::spinreel1); }
 // The eighth tick of a wait spins; every one before it counts.
 bool wait_is_over(game& g, timer wait) {
     count& ticks = g.m.awardwait;
-    if (ticks != 8) {
-        set(ticks, ticks + 1);
+    if (still_waiting(ticks, 8))
         return false;
-    }
     ticks = 1;
     stop_timer(g.p, wait);
     return true;
@@ -112,8 +94,8 @@ void take_pick(game& g) {
 void sevenspin(game& g) {
     disable(g.p, start);
     count& row = g.m.awarddraw;
-    set(row, draw(g, 3));
-    const int reach = reach_of(g, seven_reach);
+    row = draw(g, 3);
+    const int reach = band_figure(g.m.pcent, seven_reach);
     if (reach == 1)
         row = 1;
     else
@@ -123,21 +105,21 @@ void sevenspin(game& g) {
 
 void pickspin(game& g) {
     disable(g.p, start);
-    draw_row(g, g.m.pickdraw, reach_of(g, pick_reach));
-    set(g.m.pickspins, g.m.pickspins - 1);
+    draw_row(g, g.m.pickdraw, band_figure(g.m.pcent, pick_reach));
+    --g.m.pickspins;
     start_spin(g);
 }
 
 void winspin(game& g) {
     disable(g.p, start);
     g.m.holdsoffered = truth::is_not;
-    draw_row(g, g.m.awarddraw, reach_of(g, win_reach));
+    draw_row(g, g.m.awarddraw, band_figure(g.m.pcent, win_reach));
     start_spin(g);
 }
 
 void streakspin(game& g) {
     disable(g.p, start);
-    set(g.m.awarddraw, draw(g, 7));
+    g.m.awarddraw = draw(g, 7);
     start_spin(g);
 }
 

@@ -67,10 +67,10 @@ void end_pickawin(game& g) {
 
 void end_winspins(game& g) {
     machine& m = g.m;
-    set(m.winspintotal, static_cast<int>(std::lrint(m.winspintotal + double{m.win})));
+    m.winspintotal = static_cast<count>(std::lrint(m.winspintotal + double{m.win}));
     line(g, short_text("           ").add(fixed(static_cast<single>(m.winspintotal))));
     play(g, sound::win);
-    set(m.winspinsleft, m.winspinsleft - 1);
+    --m.winspinsleft;
     if (m.winspinsleft > 0) {
         start_timer(g.p, timer::start_winspins);
     } else {
@@ -105,10 +105,9 @@ const prize_row* drawn_row(const game& g, const award_row& a) {
 // A reel without a row rests on the symbol that it has.
 void stop_reel(game& g, const award_row& a, int which) {
     const prize_row* const row = drawn_row(g, a);
-    const reel_fields r = reel(g, which);
     if (row != nullptr) {
-        r.sym = row->symbol[which - 1];
-        set_picture(g.p, r.picture, row->picture[which - 1]);
+        reel(g.m, which).sym = row->symbol[which - 1];
+        set_picture(g.p, reel_picture(which), row->picture[which - 1]);
     } else {
         show_forced(g, which);
     }
@@ -142,7 +141,7 @@ void spin(game& g, int which) {
     if (step > 8 || (step == 4 && stops_early(g)))
         end_frames(g, which);
     else
-        set(step, step + 1);
+        ++step;
 }
 
 } // namespace

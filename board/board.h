@@ -21,7 +21,7 @@ bool cash_is_dark(const game&, int rung);
 void light_feature(game&, int rung);
 void dark_feature(game&, int rung);
 single cash_value(int rung); // pounds; rung 4 reads 2.40 and is worth 3.00
-int rung_of(single win);     // 0 where no rung from 1 to 9 has that value
+count rung_of(single win);   // 0 where no rung from 1 to 9 has that value
 void lightcashvalue(game&);
 void fillcashladder(game&);
 void clearcashladder(game&);

@@ -65,7 +65,7 @@ void feature_butflash(game& g) {
         else if (is_enabled(g.p, l.button) && !held_back)
             set_picture(g.p, l.button, l.light);
     }
-    set(phase, bright ? 2 : 1);
+    phase = next_of(phase, 2);
 }
 
 void feature_darkbuttons(game& g) {

@@ -30,7 +30,7 @@ void rest_on(game& g, int rung) {
 
 void gamblewin(game& g) {
     stop_timer(g.p, timer::feature_win_timer);
-    set(g.b.climbstep, rung_of(g.m.win));
+    g.b.climbstep = rung_of(g.m.win);
     start_timer(g.p, timer::feature_cashwin_effect);
 }
 
@@ -54,7 +54,7 @@ void feature_cashwin_effect(game& g) {
             return;
         }
     }
-    set(g.b.climbstep, k + 1);
+    ++g.b.climbstep;
 }
 
 } // namespace hustle

@@ -15,11 +15,11 @@ void draw_die(game& g) {
     board& b = g.b;
     const bool hilo = g.m.featuremode == mode::hilo;
     for (;;) {
-        set(b.dice, draw(g, 6));
+        b.dice = draw(g, 6);
         if (hilo && b.dice == b.lastdice)
             continue; // a tie cannot happen, and is not counted
         set_picture(g.p, feature_dicepic, nth(art::dice1pic, b.dice));
-        set(b.rolltries, b.rolltries + 1);
+        ++b.rolltries;
         if (b.rolltries == last_try || !(hilo ? call_is_refused(g) : roll_is_refused(g)))
             break;
     }
@@ -28,9 +28,10 @@ void draw_die(game& g) {
 
 void begin_walk(game& g) {
     board& b = g.b;
-    const int to = b.boardpos + b.dice;
-    set(b.boardpos, to >= 25 ? to - 24 : to);
-    set(b.movepos, b.movepos == 24 ? 1 : b.movepos + 1);
+    b.boardpos += b.dice;
+    if (b.boardpos > 24)
+        b.boardpos -= 24;
+    b.movepos = next_of(b.movepos, 24);
     board_line(g, "         * MOVING *");
     start_timer(g.p, timer::feature_movetimer);
 }
@@ -64,7 +65,7 @@ void feature_spin_dice(game& g) {
     }
     if (step >= 1)
         set_picture(g.p, feature_dicepic, nth(art::spineffect1, (step - 1) % 4 + 1));
-    set(step, step + 1);
+    ++step;
 }
 
 void rolldice(game& g) {
@@ -83,10 +84,10 @@ void rolldice(game& g) {
 void feature_movetimer(game& g) {
     board& b = g.b;
     play(g, sound::move);
-    dark_square(g, b.movepos == 1 ? 24 : b.movepos - 1);
+    dark_square(g, before_of(b.movepos, 24));
     light_square(g, b.movepos);
     if (b.movepos != b.boardpos) {
-        set(b.movepos, b.movepos == 24 ? 1 : b.movepos + 1);
+        b.movepos = next_of(b.movepos, 24);
         return;
     }
     landsquare(g);

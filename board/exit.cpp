@@ -103,7 +103,7 @@ void feature_exittimer(game& g) {
         return;
     }
     const int step = g.b.exitstep;
-    set(g.b.exitstep, step + 1);
+    ++g.b.exitstep;
     if (step >= 15)
         close_board(g);
     else if (step % 2 == 1)
@@ -114,7 +114,7 @@ void feature_exittimer(game& g) {
 
 void feature_bonus_win(game& g) {
     const int step = g.b.exitstep;
-    set(g.b.exitstep, step + 1);
+    ++g.b.exitstep;
     switch (step) {
     case 1: board_line(g, you_have_won(g.m.win)); break;
     case 4:

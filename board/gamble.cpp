@@ -37,7 +37,7 @@ void win_gamble(game& g) {
     start_timer(p, timer::feature_gambletimer);
     board_line(g, "       *** WINNER ***");
     hide(p, feature_losegamble);
-    set(g.b.cashrung, g.b.cashrung + 1);
+    ++g.b.cashrung;
     gamblewin(g);
     play(g, sound::hilo);
     enable(p, feature_collect);
@@ -89,7 +89,7 @@ void judgegamble(game& g) {
 // The two buttons flash in turn, and hurry after the first four of each ten steps.
 void feature_hitimer(game& g) {
     const int step = g.b.hilostep;
-    set(g.b.hilostep, step >= 10 ? 1 : step + 1);
+    g.b.hilostep = next_of(g.b.hilostep, 10);
     if (step == 0)
         return;
     const bool hi = step % 2 == 1;

@@ -23,6 +23,7 @@ void tell_winspins(game& g) {
 }
 void tell_winstreak(game& g) { g.m.award = award::winstreak; }
 void tell_nothing(game&) {}
+void tell_letsspin(game& g) { enable(g.p, element::stopper); }
 
 struct handover_row {
     std::string_view title; // at step 1
@@ -40,6 +41,8 @@ constexpr handover_row run_for_it = {"       * RUN FOR IT *", "       * RUN FOR 
                                      timer::feature_start_winstreak, timer::start_winstreak};
 constexpr handover_row reel_skill = {"       * REEL SKILL *", "       * REEL SKILL *", tell_nothing,
                                      timer::feature_start_reelskill, timer::start_reelskill};
+constexpr handover_row in_a_spin = {"       * IN A SPIN *", "       * IN A SPIN *", tell_letsspin,
+                                    timer::feature_start_letsspin, timer::rollem};
 
 void ready_tick(game& g, const handover_row& row) {
     count& step = g.b.readystep;
@@ -47,7 +50,7 @@ void ready_tick(game& g, const handover_row& row) {
         if (step == 1)
             board_line(g, row.title);
         get_ready_line(g, step);
-        set(step, step + 1);
+        ++step;
         return;
     }
     step = 0;
@@ -77,5 +80,6 @@ void feature_start_pickawin(game& g) { ready_tick(g, on_the_run); }
 void feature_start_winspins(game& g) { ready_tick(g, win_spins); }
 void feature_start_winstreak(game& g) { ready_tick(g, run_for_it); }
 void feature_start_reelskill(game& g) { ready_tick(g, reel_skill); }
+void feature_start_letsspin(game& g) { ready_tick(g, in_a_spin); }
 
 } // namespace hustle

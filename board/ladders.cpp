@@ -34,18 +34,18 @@ bool cash_is_dark(const game& g, int rung) { return back(g.p, nth(feature_m1, ru
 
 single cash_value(int rung) { return rung >= 1 && rung <= 10 ? values[rung - 1] : 0; }
 
-int rung_of(single win) {
-    for (int rung = 1; rung <= 9; ++rung)
+count rung_of(single win) {
+    for (count rung = 1; rung <= 9; ++rung)
         if (win == values[rung - 1])
             return rung;
     return 0;
 }
 
 void lightcashvalue(game& g) {
-    const int rung = rung_of(g.m.win);
+    const count rung = rung_of(g.m.win);
     if (rung == 0)
         return;
-    set(g.b.cashrung, rung);
+    g.b.cashrung = rung;
     light_cash(g, rung);
 }
 

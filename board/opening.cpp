@@ -58,7 +58,7 @@ void first_rungs(game& g) {
 }
 
 void first_die(game& g) {
-    set(g.b.dice, draw(g, 6));
+    g.b.dice = draw(g, 6);
     set_picture(g.p, feature_dicepic, nth(art::dice1pic, g.b.dice));
     if (g.b.dice == 1)
         disable(g.p, feature_lobutton);
@@ -157,7 +157,7 @@ void feature_exchange_timer(game& g) {
         darkallsquares(g);
     else if (g.b.boardphase == 2)
         lightallsquares(g);
-    set(g.b.boardphase, g.b.boardphase == 1 ? 2 : 1);
+    g.b.boardphase = next_of(g.b.boardphase, 2);
 }
 
 // The ring goes out square by square; with the last one the player's turn begins.
@@ -166,7 +166,7 @@ void feature_exchange_effect(game& g) {
     if (n >= 1 && n <= 24)
         dark_square(g, n);
     if (n > 1) {
-        set(n, n - 1);
+        --n;
         return;
     }
     midi(g, tune::play);

@@ -74,10 +74,10 @@ void jackpotrepeater(game& g) {
 void feature_flashing_lights(game& g) {
     board& b = g.b;
     flash_squares(g, b.lightphase);
-    set(b.lightphase, b.lightphase == 1 ? 2 : 1);
+    b.lightphase = next_of(b.lightphase, 2);
     flash_ladders(g, b.logophase);
-    set(b.logophase, b.logophase == 4 ? 1 : b.logophase + 1);
-    set(b.lightticks, b.lightticks + 1);
+    b.logophase = next_of(b.logophase, 4);
+    ++b.lightticks;
     if (b.lightticks < flash_ticks)
         return;
     b.lightticks = 0;

@@ -9,46 +9,46 @@ namespace {
 using enum element;
 
 // `n`: rungs or shots to add.
-void nothing(game&, int) {}
+void nothing(game&, count) {}
 
-void add_cash(game& g, int n) {
+void add_cash(game& g, count n) {
     g.b.cashrun = 10;
-    set(g.b.cashsteps, n);
+    g.b.cashsteps = n;
     start_timer(g.p, timer::feature_cashadd);
 }
 
-void add_features(game& g, int n) {
+void add_features(game& g, count n) {
     g.b.featurerun = 10;
-    set(g.b.featuresteps, n);
+    g.b.featuresteps = n;
     start_timer(g.p, timer::feature_featureadd);
 }
 
-void add_shots(game& g, int n) {
-    set(g.b.shotsteps, n);
+void add_shots(game& g, count n) {
+    g.b.shotsteps = n;
     start_timer(g.p, timer::feature_shotadd);
 }
 
-void multi_add(game& g, int n) {
+void multi_add(game& g, count n) {
     add_features(g, n);
     add_cash(g, n);
     add_shots(g, n);
 }
 
-void mystery(game& g, int) { mysterysquare(g); }
+void mystery(game& g, count) { mysterysquare(g); }
 
-void extra_life(game& g, int) {
+void extra_life(game& g, count) {
     show(g.p, feature_el);
     play(g, sound::ext_life);
 }
 
-void boost(game& g, int) {
+void boost(game& g, count) {
     play(g, sound::boost);
     disable(g.p, feature_stopfeature);
     disable(g.p, feature_startbutton);
     start_timer(g.p, timer::feature_start_boost);
 }
 
-void game_over(game& g, int) {
+void game_over(game& g, count) {
     machine& m = g.m;
     disable(g.p, feature_startbutton);
     if (!is_visible(g.p, feature_el)) {
@@ -62,24 +62,24 @@ void game_over(game& g, int) {
     start_timer(g.p, timer::feature_savedbyextra);
 }
 
-void skill_stop(game& g, int) {
+void skill_stop(game& g, count) {
     play(g, sound::skillstop);
     g.m.award = award::skillstop;
     start_timer(g.p, timer::feature_start_skillstop);
 }
 
-void random_stop(game& g, int) {
+void random_stop(game& g, count) {
     play(g, sound::skillstop);
     g.m.award = award::randomstop;
     start_timer(g.p, timer::feature_start_randomstop);
 }
 
-void bomb(game& g, int) { lightbomb(g); }
+void bomb(game& g, count) { lightbomb(g); }
 
 struct landing {
     std::string_view line;
-    void (*act)(game&, int);
-    int n = 0;
+    void (*act)(game&, count);
+    count n = 0;
 };
 // clang-format off
 constexpr landing landings[] = { // by square

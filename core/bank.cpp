@@ -1,6 +1,7 @@
 #include "core/bank.h"
 
 #include "core/play.h"
+#include "core/reels.h"
 #include "core/upward.h"
 #include "core/wins.h"
 #include "panel/text.h"
@@ -39,7 +40,8 @@ void pay_tick(game& g) {
     } else if (m.paystep % 2 == 1) {
         line(g, "");
     }
-    set(m.paystep, m.paystep == 10 ? 10 : m.paystep + 1);
+    if (m.paystep != 10)
+        ++m.paystep;
     refresh_pcent_guarded(m);
 }
 
@@ -152,7 +154,7 @@ void startnewgame(game& g) {
     stop_timer(p, timer::attracthold);
     set_picture(p, toplogo, art::title);
     hide(p, trailheld);
-    m.reel1held = m.reel2held = m.reel3held = flag::no;
+    release_reels(m);
     offerholds(g);
     enable(p, start);
     unload_screen(g, screen::feature); // an open board closes with nothing

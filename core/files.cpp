@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace hustle {
 
@@ -90,15 +91,21 @@ struct line_writer {
     }
 };
 
+// The amounts that game.dat begins with, in its order.
+constexpr single machine::*amounts[] = {
+    &machine::moneyin, &machine::moneyout,   &machine::lastwin, &machine::hopper,
+    &machine::cashbox, &machine::streakbank, &machine::winbank, &machine::housecut,
+};
+
 void first_game(machine& m) {
     m.moneyin = 100;
     m.moneyout = 80;
     m.lastwin = 0;
     m.hopper = 125;
     m.cashbox = m.streakbank = m.winbank = m.housecut = 0;
-    m.reel1pos = 16;
-    m.reel2pos = 13;
-    m.reel3pos = 11;
+    m.reels[0].pos = 16;
+    m.reels[1].pos = 13;
+    m.reels[2].pos = 11;
     m.reelspeed = 1;
     m.soundstate = setting::on;
     m.flashlogo = flag::yes;
@@ -138,12 +145,12 @@ void write_one(game& g, store file, std::string_view text) {
 
 std::string game_text(const machine& m) {
     line_writer out;
-    for (const single value :
-         {m.moneyin, m.moneyout, m.lastwin, m.hopper, m.cashbox, m.streakbank, m.winbank, m.housecut})
-        out.number(value);
+    for (single machine::*const amount : amounts)
+        out.number(m.*amount);
     out.line("");
-    for (const int value : {int{m.reel1pos}, int{m.reel2pos}, int{m.reel3pos}, int{m.reelspeed}})
-        out.number(value);
+    for (const reel_state& r : m.reels)
+        out.number(int{r.pos});
+    out.number(int{m.reelspeed});
     out.word(m.soundstate);
     out.word(m.flashlogo);
     out.number(int{m.ledcolour});
@@ -162,14 +169,12 @@ std::string table_text(const machine& m) {
 
 bool read_game_text(machine& m, std::string_view text) {
     line_reader in{text};
-    machine read;
-    for (single machine::*value :
-         {&machine::moneyin, &machine::moneyout, &machine::lastwin, &machine::hopper, &machine::cashbox,
-          &machine::streakbank, &machine::winbank, &machine::housecut})
-        read.*value = in.amount();
+    machine read = m;
+    for (single machine::*const amount : amounts)
+        read.*amount = in.amount();
     in.line(); // carries nothing, and counts
-    for (count machine::*value : {&machine::reel1pos, &machine::reel2pos, &machine::reel3pos})
-        read.*value = in.position();
+    for (reel_state& r : read.reels)
+        r.pos = in.position();
     read.reelspeed = in.number();
     read.soundstate = in.word();
     read.flashlogo = in.word();
@@ -177,15 +182,7 @@ bool read_game_text(machine& m, std::string_view text) {
     read.currency = in.word();
     if (in.damaged)
         return false;
-    for (single machine::*value :
-         {&machine::moneyin, &machine::moneyout, &machine::lastwin, &machine::hopper, &machine::cashbox,
-          &machine::streakbank, &machine::winbank, &machine::housecut})
-        m.*value = read.*value;
-    for (count machine::*value : {&machine::reel1pos, &machine::reel2pos, &machine::reel3pos,
-                                  &machine::reelspeed, &machine::ledcolour})
-        m.*value = read.*value;
-    for (std::string machine::*value : {&machine::soundstate, &machine::flashlogo, &machine::currency})
-        m.*value = read.*value;
+    m = std::move(read);
     return true;
 }
 

@@ -24,6 +24,14 @@ using count = std::int16_t;
 
 inline constexpr std::string_view version_text = "2.02";
 
+// One reel.
+struct reel_state {
+    count pos = 0; // * stop of the strip, 1 to 16; 0 until the files are read
+    word sym;      // the symbol on the win line
+    count num = 0; // the number on the win line, 0 to 3
+    word held;     // flag
+};
+
 struct machine {
     // Money and statistics; those marked * live in game.dat.
     single bank = 0;
@@ -54,12 +62,9 @@ struct machine {
     word version;           // set when the splash ends
 
     // Reels.
-    count reel1pos = 0, reel2pos = 0, reel3pos = 0; // * 1 to 16; 0 until the files are read
-    word reel1sym, reel2sym, reel3sym;              // the symbols on the win line
-    count reel1num = 0, reel2num = 0, reel3num = 0; // the numbers on the win line, 0 to 3
-    word reel1held, reel2held, reel3held;           // flag
-    count spinstep = 0;                             // frame of the turning reel, 0 to 9; 1 at rest
-    count spinwait = 0;                             // ticks of start_spin_in, 0 to 3
+    std::array<reel_state, 3> reels; // `reel(m, 1)` to `reel(m, 3)`
+    count spinstep = 0;              // frame of the turning reel, 0 to 9; 1 at rest
+    count spinwait = 0;              // ticks of start_spin_in, 0 to 3
 
     // Awards.
     word award;             // the award being played, or the way the last win came
@@ -202,10 +207,36 @@ struct game {
 
 // A sum is made in double and rounded to single at the store.
 inline void add(single& value, double amount) { value = static_cast<single>(value + amount); }
-inline void set(count& value, int to) { value = static_cast<count>(to); }
+// Steps and figures that run from 1 to n and begin again; one that stands past n begins again too.
+inline count next_of(count now, int n) {
+    ++now;
+    return now > n ? count{1} : now;
+}
+// And downward: 1 is followed by n.
+inline count before_of(count now, int n) {
+    --now;
+    return now < 1 ? static_cast<count>(n) : now;
+}
+
+// A wait of n ticks before something begins: true while it lasts.
+inline bool still_waiting(count& ticks, int n) {
+    if (ticks == n)
+        return false;
+    ++ticks;
+    return true;
+}
+
+// A handler: what a timer, a press or a screen's event runs.
+using handler = void (*)(game&);
+
+// The reels by their number, 1 to 3.
+inline reel_state& reel(machine& m, int which) { return m.reels[static_cast<std::size_t>(which - 1)]; }
+inline const reel_state& reel(const machine& m, int which) {
+    return m.reels[static_cast<std::size_t>(which - 1)];
+}
 
 // A draw of 1 to n.
-inline int draw(game& g, int n) { return g.w.draw(n); }
+inline count draw(game& g, int n) { return static_cast<count>(g.w.draw(n)); }
 
 // Waves and tune commands pass one gate: the sound must be on.
 inline void play(game& g, sound s) {

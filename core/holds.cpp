@@ -6,6 +6,7 @@
 #include "core/reelskill.h"
 #include "core/wins.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace hustle {
@@ -34,8 +35,8 @@ void count_sequence(game& g, int which) {
 // The promise is lost, unless the hold is cancelled.
 void bad_hold(game& g, int which) {
     machine& m = g.m;
-    reel(g, which).held = flag::yes;
-    set_picture(g.p, reel(g, which).button, art::holdpiclight);
+    reel(m, which).held = flag::yes;
+    set_picture(g.p, hold_button(which), art::holdpiclight);
     m.holdsbarred = truth::spoilt; // neither a test for "true" nor one for "false" passes
     m.badholdmade = truth::is;
     m.linepromised = truth::is_not;
@@ -59,10 +60,10 @@ void holdpress(game& g, int which) {
         reelskill_stop1(g);
     } else if (which == 3 && is_running(g.p, timer::reelskill2)) {
         reelskill_stop3(g);
-    } else if (offered && reel(g, which).held != flag::yes) {
+    } else if (offered && !is_held(reel(m, which))) {
         play(g, nth(sound::hold1, which));
-        reel(g, which).held = flag::yes;
-        set_picture(g.p, reel(g, which).button, art::holdpiclight);
+        reel(m, which).held = flag::yes;
+        set_picture(g.p, hold_button(which), art::holdpiclight);
         pairhold(g);
     }
     count_sequence(g, which);
@@ -70,12 +71,10 @@ void holdpress(game& g, int which) {
 
 // Exactly two reels are held, and they form a pair.
 bool pair_is_held(const machine& m) {
-    const bool one = m.reel1held == flag::yes;
-    const bool two = m.reel2held == flag::yes;
-    const bool three = m.reel3held == flag::yes;
-    return (one && two && !three && forms_pair(m.reel1sym, m.reel2sym)) ||
-           (one && !two && three && forms_pair(m.reel1sym, m.reel3sym)) ||
-           (!one && two && three && forms_pair(m.reel2sym, m.reel3sym));
+    if (held_reels(m) != 2)
+        return false;
+    const auto free = std::find_if_not(m.reels.begin(), m.reels.end(), is_held);
+    return pair_beside(m, static_cast<int>(free - m.reels.begin()) + 1);
 }
 
 } // namespace
@@ -109,7 +108,7 @@ void cancelpress(game& g) {
         set_interval(g.p, timer::trailskill, interval(g.p, timer::trailskill) + 30);
         return;
     }
-    if (m.reel1held != flag::yes && m.reel2held != flag::yes && m.reel3held != flag::yes)
+    if (held_reels(m) == 0)
         return;
     set_picture(g.p, element::cancelbutton, art::cancelpicdark);
     play(g, sound::cancel);
@@ -124,7 +123,7 @@ void cancelpress(game& g) {
         start_timer(g.p, timer::dontholdany);
         play(g, sound::okeydoke);
     }
-    m.reel1held = m.reel2held = m.reel3held = flag::no;
+    release_reels(m);
 }
 
 } // namespace hustle

@@ -28,22 +28,22 @@ void start_lamp(game& g) {
 }
 
 bool matches_another(const machine& m, int which) {
-    const bool one_two = m.reel1sym == m.reel2sym;
-    const bool one_three = m.reel1sym == m.reel3sym;
-    const bool two_three = m.reel2sym == m.reel3sym;
-    return (which != 3 && one_two) || (which != 2 && one_three) || (which != 1 && two_three);
+    for (int other = 1; other <= 3; ++other)
+        if (other != which && reel(m, other).sym == reel(m, which).sym)
+            return true;
+    return false;
 }
 
 // The lamp of a reel in a pair flashes three times as fast; that of a held reel stays lit.
 void hold_lamps(game& g) {
     const int step = g.m.lampstep;
     for (int which = 1; which <= 3; ++which) {
-        const reel_fields r = reel(g, which);
-        const bool pair_flash = r.held != flag::yes && matches_another(g.m, which);
+        const reel_state& r = reel(g.m, which);
+        const bool pair_flash = !is_held(r) && matches_another(g.m, which);
         if (step == 1 || (pair_flash && (step == 3 || step == 5)))
-            set_picture(g.p, r.button, art::holdpiclight);
-        else if ((step == 4 && r.held != flag::yes) || (pair_flash && (step == 2 || step == 6)))
-            set_picture(g.p, r.button, art::holdpicdark);
+            set_picture(g.p, hold_button(which), art::holdpiclight);
+        else if ((step == 4 && !is_held(r)) || (pair_flash && (step == 2 || step == 6)))
+            set_picture(g.p, hold_button(which), art::holdpicdark);
     }
 }
 
@@ -61,15 +61,14 @@ void butflash(game& g) {
     start_lamp(g);
     if (m.holdsoffered == flag::yes && m.nudges == 0)
         hold_lamps(g);
-    if (m.holdsoffered == flag::yes &&
-        (m.reel1held == flag::yes || m.reel2held == flag::yes || m.reel3held == flag::yes))
+    if (m.holdsoffered == flag::yes && held_reels(m) > 0)
         slow_flash(g, cancelbutton, art::cancelpicdark, art::cancelpiclight);
     stopper_lamp(g);
     if (is_running(g.p, timer::reelskill))
         slow_flash(g, hold1, art::stoppicdark, art::stoppiclight);
     if (is_running(g.p, timer::reelskill2))
         slow_flash(g, hold3, art::stoppicdark, art::stoppiclight);
-    set(m.lampstep, m.lampstep >= 6 ? 1 : m.lampstep + 1);
+    m.lampstep = next_of(m.lampstep, 6);
 }
 
 } // namespace hustle

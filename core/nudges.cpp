@@ -1,5 +1,6 @@
 #include "core/nudges.h"
 
+#include "core/bands.h"
 #include "core/bank.h"
 #include "core/play.h"
 #include "core/reels.h"
@@ -37,33 +38,33 @@ bool nudges_admitted(const machine& m) {
            m.trailvalue < 9 && m.credits > 0.25f;
 }
 
-// Between 85 and 86 the mode keeps its value.
+// The kind of nudges, as `nudgemode` counts them. Between 85 and 86 it stays what it was.
+constexpr count skill = 3, by_draw = 2, adding = 1;
+constexpr band kinds[] = {{edge::below, 0, 0},
+                          {edge::upto, 75, skill},
+                          {edge::upto, 85, by_draw},
+                          {edge::below, 86, 0},
+                          {edge::upto, 100000000, adding}};
+
 void choose_mode(game& g) {
-    machine& m = g.m;
-    if (m.pcent >= 0 && m.pcent <= 75)
-        m.nudgemode = 3;
-    else if (m.pcent > 75 && m.pcent <= 85)
-        set(m.nudgemode, draw(g, 3));
-    else if (m.pcent >= 86 && m.pcent <= 100000000)
-        m.nudgemode = 1;
+    const count kind = band_figure(g.m.pcent, kinds);
+    if (kind != 0)
+        g.m.nudgemode = kind == by_draw ? draw(g, 3) : kind;
 }
 
-// The bands are whole numbers and pcent is not: between two of them there are no nudges.
-int draw_add_nudges(game& g) {
-    const single pcent = g.m.pcent;
-    if (pcent >= 0 && pcent <= 80)
-        return draw(g, 5);
-    if (pcent >= 81 && pcent <= 85)
-        return draw(g, 4);
-    if (pcent >= 86 && pcent <= 90)
-        return draw(g, 3);
-    if (pcent >= 91 && pcent <= 95)
-        return draw(g, 2);
-    return pcent > 95 ? 1 : 0;
+// The reach of the draw of add nudges. The bands are whole numbers and pcent is not: between two of
+// them there are no nudges. A reach of 1 needs no draw.
+constexpr band add_reach[] = {{edge::below, 0, 0},  {edge::upto, 80, 5},  {edge::below, 81, 0},
+                              {edge::upto, 85, 4},  {edge::below, 86, 0}, {edge::upto, 90, 3},
+                              {edge::below, 91, 0}, {edge::upto, 95, 2},  {edge::upto, no_limit, 1}};
+
+count draw_add_nudges(game& g) {
+    const count reach = band_figure(g.m.pcent, add_reach);
+    return reach > 1 ? draw(g, reach) : reach;
 }
 
 void offer_add(game& g) {
-    set(g.m.nudges, draw_add_nudges(g));
+    g.m.nudges = draw_add_nudges(g);
     hold_lamps(g, art::nudgepiclight);
     disable(g.p, start);
     if (g.m.nudges >= 1)
@@ -92,11 +93,11 @@ bool figure_tick(game& g) {
 
 void nudge(game& g, int which) {
     machine& m = g.m;
-    const reel_fields r = reel(g, which);
+    reel_state& r = reel(m, which);
     r.num = 0;
-    set_stop(g, which, r.pos <= 1 ? 16 : r.pos - 1);
+    set_stop(g, which, before_of(r.pos, 16));
     --m.nudges;
-    set(m.trailvalue, m.trailvalue + r.num);
+    m.trailvalue += r.num;
     checkline(g);
     if (m.win <= 0 && r.num >= 1)
         starttrailrun(g);
@@ -121,7 +122,7 @@ void flash_nudges(game& g) {
         line(g, "     YOU HAVE 1 NUDGE");
     else if (m.nudgestep == 4)
         line(g, "       * NUDGE NOW *");
-    set(m.nudgestep, m.nudgestep == 8 ? 1 : m.nudgestep + 1);
+    m.nudgestep = next_of(m.nudgestep, 8);
 }
 
 void end_nudges(game& g) {
@@ -143,7 +144,7 @@ void end_nudges(game& g) {
 
 void offernudges(game& g) {
     machine& m = g.m;
-    set(m.nudgedraw, draw(g, 6));
+    m.nudgedraw = draw(g, 6);
     if (!nudges_admitted(m)) {
         m.nudges = 0;
         return;
@@ -167,7 +168,7 @@ void pseudo_nudges(game& g) {
         m.lastfigure = m.nudges;
     }
     do {
-        set(m.nudges, draw(g, 5));
+        m.nudges = draw(g, 5);
     } while (m.nudges == m.lastfigure);
     set_picture(g.p, picture1, nth(art::nudge1, m.nudges));
     play(g, sound::ping);
@@ -176,7 +177,7 @@ void pseudo_nudges(game& g) {
 void skill_nudges(game& g) {
     machine& m = g.m;
     const bool busy = figure_tick(g);
-    set(m.nudges, m.nudges == 5 ? 1 : m.nudges + 1);
+    m.nudges = next_of(m.nudges, 5);
     if (!busy && m.nudges >= 1 && m.nudges <= 5)
         set_picture(g.p, picture1, nth(art::nudge1, m.nudges));
     play(g, sound::ping);
@@ -197,7 +198,10 @@ void addnudges(game& g) {
     }
     set_picture(g.p, picture1, ladder_art(m.addstep));
     play(g, sound::addnudge);
-    set(m.addstep, m.addstep == m.nudges ? 6 : m.addstep + 1);
+    if (m.addstep == m.nudges)
+        m.addstep = 6;
+    else
+        ++m.addstep;
 }
 
 void nudgetimer(game& g) {

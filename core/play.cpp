@@ -13,10 +13,6 @@ namespace {
 
 using enum element;
 
-int held_reels(const machine& m) {
-    return (m.reel1held == flag::yes) + (m.reel2held == flag::yes) + (m.reel3held == flag::yes);
-}
-
 // The line is promised: no stake, and the reels go to it after a short tune of words.
 void free_respin(game& g) {
     machine& m = g.m;
@@ -96,20 +92,20 @@ void resetplay(game& g) {
         m.trailtarget = 0;
     }
     for (int which = 1; which <= 3; ++which)
-        if (reel(g, which).held != flag::yes)
-            reel(g, which).num = 0;
+        if (!is_held(reel(g.m, which)))
+            reel(m, which).num = 0;
 }
 
 void darkbuttons(game& g) {
     set_picture(g.p, cancelbutton, art::cancelpicdark);
     for (int which = 1; which <= 3; ++which)
-        if (reel(g, which).held != flag::yes)
-            set_picture(g.p, reel(g, which).button, art::holdpicdark);
+        if (!is_held(reel(g.m, which)))
+            set_picture(g.p, hold_button(which), art::holdpicdark);
 }
 
 void clearholds(game& g) {
     machine& m = g.m;
-    m.reel1held = m.reel2held = m.reel3held = flag::no;
+    release_reels(m);
     m.holdsoffered = flag::no;
     for (const element lamp : {hold1, hold2, hold3})
         set_picture(g.p, lamp, art::holdpicdark);
@@ -146,10 +142,8 @@ void afterreels(game& g) {
 }
 
 void start_spin_in(game& g) {
-    if (g.m.spinwait != 3) {
-        ++g.m.spinwait;
+    if (still_waiting(g.m.spinwait, 3))
         return;
-    }
     stop_timer(g.p, timer::start_spin_in);
     g.m.nudgemode = 1;
     spinforcedline(g);

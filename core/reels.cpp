@@ -36,24 +36,22 @@ constexpr int frames[3][3][8] = {
 
 constexpr timer spin_timers[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3};
 
-bool all_alike(const machine& m) { return m.reel1sym == m.reel2sym && m.reel2sym == m.reel3sym; }
-
 void draw_stop(game& g, int which) {
-    reel(g, which).num = 0;
+    reel(g.m, which).num = 0;
     set_stop(g, which, draw(g, 16));
 }
 
 void run_over(game& g) {
     machine& m = g.m;
-    set(m.trailvalue, m.trailvalue + m.reel1num + m.reel2num + m.reel3num);
+    m.trailvalue += numbers_shown(m);
     afterreels(g);
 }
 
 // A reel of the play has stopped by its draw: the next free one starts, or the run is over.
 void next_reel(game& g, int stopped) {
-    if (stopped == 1 && g.m.reel2held == flag::no)
+    if (stopped == 1 && reel(g.m, 2).held == flag::no)
         start_timer(g.p, timer::reelspin2);
-    else if (stopped <= 2 && g.m.reel3held == flag::no)
+    else if (stopped <= 2 && reel(g.m, 3).held == flag::no)
         start_timer(g.p, timer::reelspin3);
     else
         run_over(g);
@@ -97,25 +95,33 @@ void spin(game& g, int which) {
 
 } // namespace
 
-reel_fields reel(game& g, int which) {
-    machine& m = g.m;
-    if (which == 1)
-        return {m.reel1pos, m.reel1sym, m.reel1num, m.reel1held, element::reel1, element::hold1};
-    if (which == 2)
-        return {m.reel2pos, m.reel2sym, m.reel2num, m.reel2held, element::reel2, element::hold2};
-    return {m.reel3pos, m.reel3sym, m.reel3num, m.reel3held, element::reel3, element::hold3};
+int held_reels(const machine& m) {
+    return static_cast<int>(std::count_if(m.reels.begin(), m.reels.end(), is_held));
+}
+
+void release_reels(machine& m) {
+    for (reel_state& r : m.reels)
+        r.held = flag::no;
+}
+
+bool all_alike(const machine& m) {
+    return m.reels[0].sym == m.reels[1].sym && m.reels[1].sym == m.reels[2].sym;
+}
+
+count numbers_shown(const machine& m) {
+    return static_cast<count>(m.reels[0].num + m.reels[1].num + m.reels[2].num);
 }
 
 void set_stop(game& g, int which, int position) {
-    set(reel(g, which).pos, position);
-    reel(g, which).num = strip_stop(position).number;
+    reel(g.m, which).pos = static_cast<count>(position);
+    reel(g.m, which).num = strip_stop(position).number;
     show_stop(g, which, position);
 }
 
 void show_stop(game& g, int which, int position) {
     const stop_row& stop = strip_stop(position);
-    reel(g, which).sym = stop.symbol;
-    set_picture(g.p, reel(g, which).picture, stop.picture);
+    reel(g.m, which).sym = stop.symbol;
+    set_picture(g.p, reel_picture(which), stop.picture);
 }
 
 art forced_picture(int which, word symbol) {
@@ -125,9 +131,9 @@ art forced_picture(int which, word symbol) {
 }
 
 void show_forced(game& g, int which) {
-    const art picture = forced_picture(which, reel(g, which).sym);
+    const art picture = forced_picture(which, reel(g.m, which).sym);
     if (picture != art::none)
-        set_picture(g.p, reel(g, which).picture, picture);
+        set_picture(g.p, reel_picture(which), picture);
 }
 
 void showforced1(game& g) { show_forced(g, 1); }
@@ -138,37 +144,38 @@ void show_spin_frames(game& g, int which, int step) {
     if (step < 1 || step > 8)
         return;
     for (int r = which; r <= 3; ++r)
-        if (reel(g, r).held != flag::yes)
-            set_picture(g.p, reel(g, r).picture, nth(art::effect1, frames[which - 1][r - 1][step - 1]));
+        if (!is_held(reel(g.m, r)))
+            set_picture(g.p, reel_picture(r), nth(art::effect1, frames[which - 1][r - 1][step - 1]));
 }
 
 // A pair held on reels 2 and 3 never wins by reel 1's draw.
 void drawreel1(game& g) {
     machine& m = g.m;
-    if (m.reel1held != flag::no)
+    if (reel(m, 1).held != flag::no)
         return;
     do {
         draw_stop(g, 1);
-    } while (m.reel2held == flag::yes && m.reel3held == flag::yes && all_alike(m));
+    } while (is_held(reel(m, 2)) && is_held(reel(m, 3)) && all_alike(m));
 }
 
 void drawreel2(game& g) {
-    if (g.m.reel2held == flag::no)
+    if (reel(g.m, 2).held == flag::no)
         draw_stop(g, 2);
 }
 
 // No free reel 3 falls into three of a kind, unless the pair has been held three plays running.
 void drawreel3(game& g) {
     machine& m = g.m;
-    if (m.reel3held != flag::no)
+    if (reel(m, 3).held != flag::no)
         return;
     do {
         draw_stop(g, 3);
-    } while (all_alike(m) && (m.pairholds != 3 || (m.reel1held == flag::no && m.reel2held == flag::no)));
+    } while (all_alike(m) &&
+             (m.pairholds != 3 || (reel(m, 1).held == flag::no && reel(m, 2).held == flag::no)));
 }
 
 void reelspin1(game& g) {
-    if (g.m.reel1held == flag::no) {
+    if (reel(g.m, 1).held == flag::no) {
         spin(g, 1);
         return;
     }

@@ -12,16 +12,16 @@ inline const stop_row& strip_stop(int position) {
     return strip[static_cast<std::size_t>(position - 1) % strip.size()];
 }
 
-// The values of one reel, for routines that serve all three.
-struct reel_fields {
-    count& pos;
-    word& sym;
-    count& num;
-    word& held;
-    element picture;
-    element button;
-};
-reel_fields reel(game&, int which); // 1 to 3
+// The picture of a reel on the panel, and its hold button.
+inline element reel_picture(int which) { return nth(element::reel1, which); }
+inline element hold_button(int which) { return nth(element::hold1, which); }
+
+inline bool is_held(const reel_state& r) { return r.held == flag::yes; }
+int held_reels(const machine&); // 0 to 3
+void release_reels(machine&);   // none is held
+bool all_alike(const machine&); // one symbol on all three
+// The numbers on the win line, together.
+count numbers_shown(const machine&);
 
 // Position, symbol, picture and number of a reel, all at once.
 void set_stop(game&, int which, int position);

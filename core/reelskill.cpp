@@ -12,15 +12,15 @@ using enum element;
 constexpr std::string_view skill_text = "      * REEL SKILL *";
 constexpr std::string_view nudge_text = "    * NUDGE REEL 2 *";
 
-int one_down(int position) { return position <= 1 ? 16 : position - 1; }
+constexpr int stops = 16;
 
 // A reel walks down the strip by one stop: its position stands one behind the stop shown, and the
 // text flashes with it.
 void walk(game& g, int which, std::string_view text) {
-    count& position = reel(g, which).pos;
-    show_stop(g, which, one_down(position));
+    count& position = reel(g.m, which).pos;
+    show_stop(g, which, before_of(position, stops));
     line(g, position % 2 != 0 ? text : "");
-    set(position, one_down(position));
+    position = before_of(position, stops);
 }
 
 } // namespace
@@ -30,10 +30,8 @@ void start_reelskill(game& g) {
     disable(g.p, start);
     if (m.awardwait == 1)
         line(g, skill_text);
-    if (m.awardwait != 8) {
-        ++m.awardwait;
+    if (still_waiting(m.awardwait, 8))
         return;
-    }
     play(g, sound::fastcash);
     m.awardwait = 1;
     stop_timer(g.p, timer::start_reelskill);
@@ -50,13 +48,13 @@ void reelskill(game& g) {
         set_picture(g.p, reel1, nth(art::effect1, m.spinstep));
         line(g, m.spinstep % 2 == 1 ? "" : skill_text);
     }
-    set(m.reel1pos, one_down(m.reel1pos));
-    set(m.spinstep, m.spinstep == 4 ? 1 : m.spinstep + 1);
+    reel(m, 1).pos = before_of(reel(m, 1).pos, stops);
+    m.spinstep = next_of(m.spinstep, 4);
 }
 
 void reelskill_stop1(game& g) {
     set_picture(g.p, hold1, art::holdpicdark);
-    show_stop(g, 1, g.m.reel1pos >= 16 ? 1 : g.m.reel1pos + 1);
+    show_stop(g, 1, next_of(reel(g.m, 1).pos, stops));
     stop_timer(g.p, timer::reelskill);
     start_timer(g.p, timer::reelskill2);
 }
@@ -69,7 +67,7 @@ void reelskill2(game& g) {
 void reelskill_stop3(game& g) {
     stop_timer(g.p, timer::reelskill2);
     set_picture(g.p, hold3, art::holdpicdark);
-    if (g.m.reel3sym == g.m.reel1sym)
+    if (reel(g.m, 3).sym == reel(g.m, 1).sym)
         start_timer(g.p, timer::reelskill3);
     else
         enable(g.p, start);
@@ -79,7 +77,7 @@ void reelskill_stop3(game& g) {
 void reelskill3(game& g) {
     play(g, sound::dong);
     walk(g, 2, nudge_text);
-    if (g.m.reel3sym != g.m.reel2sym)
+    if (reel(g.m, 3).sym != reel(g.m, 2).sym)
         return;
     checkline(g);
     stop_timer(g.p, timer::reelskill3);

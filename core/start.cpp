@@ -29,8 +29,8 @@ constexpr look_row looks_at_load[] = {
 
 // A saved position shows as the stop one higher on the strip, and stays as it was saved.
 void show_saved_reel(game& g, int which) {
-    const reel_fields r = reel(g, which);
-    const int next = r.pos >= 16 ? 1 : r.pos + 1;
+    reel_state& r = reel(g.m, which);
+    const int next = next_of(r.pos, 16);
     show_stop(g, which, next);
     r.num = strip_stop(next).number;
 }
@@ -78,7 +78,7 @@ void main_load(game& g) {
     m.holdsbarred = truth::is_not;
     m.credits = 20;
     m.pausesecs = 1;
-    m.reel1held = m.reel2held = m.reel3held = flag::no;
+    release_reels(m);
     for (int which = 1; which <= 3; ++which)
         show_saved_reel(g, which);
     figuresline(g);

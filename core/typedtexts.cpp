@@ -72,7 +72,7 @@ void typed_tick(game& g, const typed_text& text) {
         line(g, step % 2 == 1 ? "" : text.whole);
     else if (step >= 1 && step < text.flash_from)
         type_frame(g, text, step);
-    set(step, step + 1);
+    ++step;
 }
 
 constexpr std::array<std::string_view, 8> growing = {
@@ -106,7 +106,7 @@ void ilikeit(game& g) {
         return;
     }
     like_it_frame(g, step);
-    set(step, step + 1);
+    ++step;
 }
 
 } // namespace hustle

@@ -1,22 +1,27 @@
 #include "core/wins.h"
 
+#include "core/bands.h"
 #include "core/reels.h"
 #include "panel/prizes.h"
+
+#include <algorithm>
 
 namespace hustle {
 
 namespace {
 
+// How many of six figures promise a pair.
+constexpr band promise_chances[] = {
+    {edge::below, 0, 0}, {edge::upto, 85, 2}, {edge::below, 85.1f, 0}, {edge::upto, 9999, 1}};
+
 bool is_seven(word symbol) { return symbol == "rseven" || symbol == "bseven"; }
 
 bool any_two_show(const machine& m, word symbol) {
-    return (m.reel1sym == symbol) + (m.reel2sym == symbol) + (m.reel3sym == symbol) >= 2;
+    return std::count_if(m.reels.begin(), m.reels.end(),
+                         [symbol](const reel_state& r) { return r.sym == symbol; }) >= 2;
 }
 
-bool any_pair(const machine& m) {
-    return forms_pair(m.reel2sym, m.reel3sym) || forms_pair(m.reel1sym, m.reel3sym) ||
-           forms_pair(m.reel1sym, m.reel2sym);
-}
+bool any_pair(const machine& m) { return pair_beside(m, 1) || pair_beside(m, 2) || pair_beside(m, 3); }
 
 } // namespace
 
@@ -35,19 +40,16 @@ bool forms_pair(word a, word b) {
     return tail(a) == tail(b);
 }
 
-single line_prize(const machine& m) {
-    if (m.reel1sym == m.reel2sym && m.reel2sym == m.reel3sym) {
-        for (const line_row& row : line_rows)
-            if (row.symbol == m.reel1sym)
-                return row.prize;
-        return 0;
-    }
-    return is_seven(m.reel1sym) && is_seven(m.reel2sym) && is_seven(m.reel3sym) ? mixed_sevens_prize : 0;
+bool pair_beside(const machine& m, int which) {
+    const auto at = static_cast<std::size_t>(which - 1);
+    return forms_pair(m.reels[(at + 1) % 3].sym, m.reels[(at + 2) % 3].sym);
 }
+
+single line_prize(const machine& m) { return line_prize(m.reels[0].sym, m.reels[1].sym, m.reels[2].sym); }
 
 void checkline(game& g) {
     machine& m = g.m;
-    if (const single prize = line_prize(m.reel1sym, m.reel2sym, m.reel3sym); prize > 0)
+    if (const single prize = line_prize(m); prize > 0)
         m.win = prize;
     if (m.win < 1)
         return;
@@ -75,12 +77,10 @@ void offerdontholdany(game& g) {
     if (m.win != 0 || m.trailvalue == 4)
         return;
     const int r = draw(g, 6);
-    const bool low = m.pcent >= 0 && m.pcent <= 85;
-    const bool high = m.pcent >= 85.1f && m.pcent <= 9999;
-    if (low || high) { // between the bands a pair is promised with no draw deciding
-        const bool offered = r == 1 || (low && r == 2);
-        m.holdsoffered = offered ? flag::yes : flag::no;
-        if (!offered)
+    // Outside the bands a pair is promised with no draw deciding.
+    if (const count chances = band_figure(m.pcent, promise_chances); chances != 0) {
+        m.holdsoffered = r <= chances ? flag::yes : flag::no;
+        if (r > chances)
             return;
     }
     if (!any_pair(m))
@@ -97,20 +97,16 @@ void spinforcedline(game& g) {
     machine& m = g.m;
     const bool all_spin = m.holdsbarred == truth::is;
     if (all_spin)
-        m.reel1held = m.reel2held = m.reel3held = flag::no;
-    const auto spin_from = [&](timer first) { start_timer(g.p, all_spin ? timer::reelspin1 : first); };
-    if (m.reel1held == flag::no && forms_pair(m.reel2sym, m.reel3sym)) {
-        m.reel1sym = m.reel2sym;
-        spin_from(timer::reelspin1);
-    } else if (m.reel2held == flag::no && forms_pair(m.reel1sym, m.reel3sym)) {
-        m.reel2sym = m.reel1sym;
-        spin_from(timer::reelspin2);
-    } else if (m.reel3held == flag::no && forms_pair(m.reel1sym, m.reel2sym)) {
-        m.reel3sym = m.reel1sym;
-        spin_from(timer::reelspin3);
-    } else if (all_spin) {
-        start_timer(g.p, timer::reelspin1);
+        release_reels(m);
+    for (int which = 1; which <= 3; ++which) {
+        if (reel(m, which).held != flag::no || !pair_beside(m, which))
+            continue;
+        reel(m, which).sym = reel(m, which == 1 ? 2 : 1).sym;
+        start_timer(g.p, all_spin ? timer::reelspin1 : nth(timer::reelspin1, which));
+        return;
     }
+    if (all_spin)
+        start_timer(g.p, timer::reelspin1);
 }
 
 void forcedstep1(game& g) {

@@ -103,9 +103,6 @@ void button_chase(panel& p, int step) {
     set_picture(p, lamp.button, run % 2 == 0 ? lamp.light : lamp.dark);
 }
 
-// The step that follows; the first comes after the last.
-int next_step(int step, int last) { return step >= last ? 1 : step + 1; }
-
 } // namespace
 
 void startattract(game& g) {
@@ -122,7 +119,7 @@ void attracthold(game& g) {
     machine& m = g.m;
     trail_chase(g, m.attractstep);
     button_chase(g.p, m.attractstep);
-    set(m.attractstep, next_step(m.attractstep, 24));
+    m.attractstep = next_of(m.attractstep, 24);
 }
 
 void flashtimer(game& g) {
@@ -145,7 +142,7 @@ void scrolltimer(game& g) {
         if (now.interval != 0)
             set_interval(g.p, timer::scrolltimer, now.interval);
     }
-    set(m.scrollstep, next_step(step, steps));
+    m.scrollstep = next_of(m.scrollstep, steps);
 }
 
 } // namespace hustle

@@ -22,9 +22,9 @@ void reelguide_load(game& g) {
     const art shown = at(p, reelguide_Image2).picture;
     set_picture(p, reelguide_Image1, shown);
     set_picture(p, reelguide_Image3, shown);
-    place_frame(p, reelguide_Shape1, g.m.reel1pos);
-    place_frame(p, reelguide_Shape2, g.m.reel2pos);
-    place_frame(p, reelguide_Shape3, g.m.reel3pos);
+    place_frame(p, reelguide_Shape1, reel(g.m, 1).pos);
+    place_frame(p, reelguide_Shape2, reel(g.m, 2).pos);
+    place_frame(p, reelguide_Shape3, reel(g.m, 3).pos);
 }
 
 void wintable_load(game& g) {

@@ -50,10 +50,10 @@ void Highscore_load(game& g) {
 
 // One bubble pass from the bottom: only the tenth entry can be out of place. A tie stays below.
 void sorttable(game& g) {
-    int row = last_row;
+    count row = last_row;
     for (; row > 1 && score(g.m, row) > score(g.m, row - 1); --row)
         move_up(g, row);
-    set(g.t.flashrow, row);
+    g.t.flashrow = row;
     start_timer(g.p, timer::Highscore_flashscore);
 }
 

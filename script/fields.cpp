@@ -6,6 +6,8 @@ namespace {
 
 #define MACHINE(name, ...)                                                                                   \
     field_row { #name, &machine::name __VA_OPT__(, range{__VA_ARGS__}) }
+#define REEL(which, name, ...)                                                                               \
+    field_row { "reel" #which #name, reel_place{which, &reel_state::name} __VA_OPT__(, range{__VA_ARGS__}) }
 #define BOARD(name, ...)                                                                                     \
     field_row { "feature." #name, &board::name __VA_OPT__(, range{__VA_ARGS__}) }
 #define ON_ENTERNAME(name, ...)                                                                              \
@@ -21,9 +23,9 @@ const field_row rows[] = {
     MACHINE(hopper), MACHINE(cashbox), MACHINE(winbank), MACHINE(streakbank), MACHINE(housecut),
     MACHINE(credits), MACHINE(streaktotal), MACHINE(bonuswin), MACHINE(bonuspence), MACHINE(newscore),
     MACHINE(reelspeed), MACHINE(ledcolour), MACHINE(soundstate), MACHINE(flashlogo), MACHINE(currency),
-    MACHINE(version), MACHINE(reel1pos, 0, 16), MACHINE(reel2pos, 0, 16), MACHINE(reel3pos, 0, 16), MACHINE(reel1sym),
-    MACHINE(reel2sym), MACHINE(reel3sym), MACHINE(reel1num), MACHINE(reel2num), MACHINE(reel3num),
-    MACHINE(reel1held), MACHINE(reel2held), MACHINE(reel3held), MACHINE(spinstep), MACHINE(spinwait),
+    MACHINE(version), REEL(1, pos, 0, 16), REEL(2, pos, 0, 16), REEL(3, pos, 0, 16), REEL(1, sym),
+    REEL(2, sym), REEL(3, sym), REEL(1, num), REEL(2, num), REEL(3, num),
+    REEL(1, held), REEL(2, held), REEL(3, held), MACHINE(spinstep), MACHINE(spinwait),
     MACHINE(award), MACHINE(featuremode), MACHINE(invincible), MACHINE(pickstopped), MACHINE(pickspins),
     MACHINE(pickdraw), MACHINE(winspinsleft), MACHINE(awarddraw), MACHINE(awardwait), MACHINE(lampphase),
     MACHINE(winspintotal), MACHINE(fastcashway), MACHINE(exiting), MACHINE(holdsoffered),

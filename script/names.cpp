@@ -69,6 +69,9 @@ void names::sort() {
 void names::add_fields(game& g) {
     struct {
         game& g;
+        slot operator()(const reel_place& f) const {
+            return std::visit([&](auto what) -> slot { return &(reel(g.m, f.which).*what); }, f.what);
+        }
         slot operator()(single machine::*f) const { return &(g.m.*f); }
         slot operator()(count machine::*f) const { return &(g.m.*f); }
         slot operator()(word machine::*f) const { return &(g.m.*f); }

@@ -29,9 +29,13 @@ struct cell {
 };
 
 // A field by its name in the script.
-using field_place = std::variant<single machine::*, count machine::*, word machine::*, std::string machine::*,
-                                 single board::*, count board::*, word board::*, single table_fields::*,
-                                 count table_fields::*, std::string table_fields::*>;
+struct reel_place {
+    int which; // 1 to 3
+    std::variant<count reel_state::*, word reel_state::*> what;
+};
+using field_place = std::variant<reel_place, single machine::*, count machine::*, word machine::*,
+                                 std::string machine::*, single board::*, count board::*, word board::*,
+                                 single table_fields::*, count table_fields::*, std::string table_fields::*>;
 struct field_row {
     std::string_view name;
     field_place where;

@@ -2,6 +2,7 @@
 
 #include "board/board.h"
 #include "core/play.h"
+#include "core/reels.h"
 #include "panel/text.h"
 
 #include <algorithm>
@@ -46,9 +47,7 @@ std::string_view stopper_hint(const game& g) {
 constexpr timer reels[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3,    timer::spinreel1,
                            timer::spinreel2, timer::spinreel3, timer::start_spin_in};
 
-bool any_held(const machine& m) {
-    return m.reel1held == flag::yes || m.reel2held == flag::yes || m.reel3held == flag::yes;
-}
+bool any_held(const machine& m) { return held_reels(m) > 0; }
 
 std::string_view offer_hint(const game& g) {
     const machine& m = g.m;

@@ -72,7 +72,7 @@ std::string numbered(std::string_view family, int n, std::string_view what) {
 }
 
 std::string_view symbol(const machine& m, int reel) {
-    const std::string_view sym = reel == 1 ? m.reel1sym : reel == 2 ? m.reel2sym : m.reel3sym;
+    const std::string_view sym = m.reels[static_cast<std::size_t>(reel - 1)].sym;
     if (sym == "rseven")
         return "red seven";
     return sym == "bseven" ? std::string_view("blue seven") : sym;
@@ -87,7 +87,7 @@ std::string hold_name(const game& g, element e, int n) {
     if (a == art::stoppicdark || a == art::stoppiclight)
         return numbered("Stop reel", n, {});
     const machine& m = g.m;
-    const bool held = (n == 1 ? m.reel1held : n == 2 ? m.reel2held : m.reel3held) == flag::yes;
+    const bool held = reel(m, n).held == flag::yes;
     const std::string name = numbered("Hold reel", n, {});
     if (held)
         return name + ", held";

@@ -15,10 +15,8 @@ constexpr int wait_ticks = 10;
 } // namespace
 
 void feature_start_thin_ice(game& g) {
-    if (g.b.shortwait != wait_ticks) {
-        set(g.b.shortwait, g.b.shortwait + 1);
+    if (still_waiting(g.b.shortwait, wait_ticks))
         return;
-    }
     g.b.yesnoanswer = ""; // no answer before the first tick
     start_timer(g.p, timer::feature_yesorno);
     g.b.shortwait = 1;
@@ -34,7 +32,7 @@ void feature_yesorno(game& g) {
     play(g, yes ? sound::yes : sound::no);
     g.b.yesnoanswer = yes ? flag::yes : flag::no;
     board_line(g, yes ? " YES      CONTINUE" : "          CONTINUE      NO");
-    next_of_two(g.b.yesnostep);
+    g.b.yesnostep = next_of(g.b.yesnostep, 2);
 }
 
 void feature_pickaladder(game& g) {
@@ -51,15 +49,13 @@ void feature_pickaladder(game& g) {
         board_line(g, "         * CASH *");
         fillcashladder(g);
     }
-    next_of_two(g.b.ladderpick);
+    g.b.ladderpick = next_of(g.b.ladderpick, 2);
 }
 
 void feature_start_boost(game& g) {
     hold_buttons(g);
-    if (g.b.shortwait != wait_ticks) {
-        set(g.b.shortwait, g.b.shortwait + 1);
+    if (still_waiting(g.b.shortwait, wait_ticks))
         return;
-    }
     g.b.shortwait = 0;
     beginmove(g);
     stop_timer(g.p, timer::feature_start_boost);
@@ -76,7 +72,7 @@ void feature_start_bombfeature(game& g) {
     if (step == 1)
         board_line(g, "     * BLOW THE SAFE *");
     flash_line(g, step, 10, 19, "        HOARD HUSTLE");
-    set(g.b.readystep, step + 1);
+    ++g.b.readystep;
 }
 
 void feature_savedbyextra(game& g) {
@@ -98,7 +94,7 @@ void feature_savedbyextra(game& g) {
         feature_enablebuttons(g);
         stop_timer(g.p, timer::feature_savedbyextra);
     }
-    set(g.b.readystep, step == 25 ? 1 : step + 1);
+    g.b.readystep = next_of(g.b.readystep, 25);
 }
 
 void feature_invincibletimer(game& g) {

@@ -31,7 +31,6 @@ inline void flash_line(game& g, int step, int first, int last, std::string_view 
         board_line(g, step % 2 == 0 ? text : "");
 }
 
-// 1, 2, 1, 2; from 0 to 1.
-inline void next_of_two(count& phase) { set(phase, phase == 2 ? 1 : phase + 1); }
+inline void next_of_two(count& phase) { phase = next_of(phase, 2); }
 
 } // namespace hustle

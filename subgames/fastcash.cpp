@@ -32,7 +32,7 @@ void feature_start_fastcash(game& g) {
     if (step == 1)
         board_line(g, "       * FAST CASH *");
     get_ready_line(g, step);
-    set(g.b.readystep, step + 1);
+    ++g.b.readystep;
 }
 
 // `readystep` is the rung that the next move acts on. Below 1 the light is out of sight; rung 4 is
@@ -47,13 +47,15 @@ void feature_fastcash(game& g) {
             light_cash(g, rung);
             g.m.win = cash_value(rung);
         }
-        set(g.b.readystep, rung == 10 ? 10 : rung + 1);
+        if (rung != 10)
+            ++g.b.readystep;
     } else if (g.m.fastcashway == way::down) {
         if (rung >= 2 && rung <= 10) {
             dark_cash(g, rung);
             g.m.win = cash_value(rung - 1);
         }
-        set(g.b.readystep, rung == 2 ? 2 : rung - 1);
+        if (rung != 2)
+            --g.b.readystep;
     }
 }
 

@@ -17,7 +17,7 @@ constexpr int halfway_step = 130;
 constexpr int last_step = 221; // the belt stops by itself on its last three prices
 constexpr std::size_t window_cells = 26;
 
-void step_on(game& g) { set(g.b.beltstep, g.b.beltstep + 1); }
+void step_on(game& g) { ++g.b.beltstep; }
 
 bool creepy(const game& g) { return g.m.award == award::moneybelt; }
 

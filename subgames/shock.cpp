@@ -76,13 +76,13 @@ void feature_start_shock(game& g) {
         lightboardlabels(g);
     else
         resetboardlabels(g);
-    set(g.b.shockpos, step + 1);
+    ++g.b.shockpos;
 }
 
 void feature_shock_timer(game& g) {
     resetboardlabels(g);
     do
-        set(g.b.shockpos, draw(g, 8));
+        g.b.shockpos = draw(g, 8);
     while (g.b.shockpos == g.b.lastshock);
     show_place(g, &place::fast);
     g.b.lastshock = g.b.shockpos;
@@ -90,7 +90,7 @@ void feature_shock_timer(game& g) {
 }
 
 void feature_shock_trueskill(game& g) {
-    set(g.b.shockpos, g.b.shockpos >= 8 ? 1 : g.b.shockpos + 1);
+    g.b.shockpos = next_of(g.b.shockpos, 8);
     resetboardlabels(g);
     show_place(g, &place::slow);
     play(g, sound::ping);

@@ -54,7 +54,7 @@ void fire(game& g) {
     g.b.shotstate = shooting::on_offer;
     stop_timer(g.p, timer::feature_shots_timer);
     enable(g.p, feature_collect);
-    set(g.b.shots, g.b.shots - 1);
+    --g.b.shots;
     set_caption(g.p, feature_shotbox, short_text("  ").add(plain(static_cast<int>(g.b.shots))));
     clearcashladder(g);
     drawshotprize(g);
@@ -113,7 +113,7 @@ void feature_start_shots(game& g) {
             clearcashladder(g);
         }
     }
-    set(g.b.readystep, step + 1);
+    ++g.b.readystep;
 }
 
 void feature_shots_timer(game& g) {
@@ -125,7 +125,7 @@ void feature_shots_timer(game& g) {
         flash_lines(g, true);
         light_every_second(g, 2);
     }
-    next_of_two(g.b.shotflash);
+    g.b.shotflash = next_of(g.b.shotflash, 2);
 }
 
 void shot(game& g) {
@@ -141,10 +141,10 @@ void shot(game& g) {
 void drawshotprize(game& g) {
     if (!prize_left(g))
         return;
-    int n = 0;
+    count n = 0;
     do {
         n = draw(g, g.b.shotsatstart);
-        set(g.b.shockpos, n);
+        g.b.shockpos = n;
     } while (n <= 10 && !is_enabled(g.p, rung(n)));
     if (n > 10)
         return; // no rung: what stood on offer before stands again

@@ -127,11 +127,11 @@ void set_up(game& g, const ring_case& c, int from) {
     g.m.featuremode = "feature";
     g.m.pcent = c.pcent;
     g.m.invincible = c.guarded ? "yes" : "no";
-    set(g.b.cashrung, c.cashrung);
-    set(g.b.featurerung, c.featurerung);
-    set(g.b.shots, c.shots);
-    set(g.b.boardpos, from);
-    set(g.b.movepos, from);
+    g.b.cashrung = static_cast<count>(c.cashrung);
+    g.b.featurerung = static_cast<count>(c.featurerung);
+    g.b.shots = static_cast<count>(c.shots);
+    g.b.boardpos = static_cast<count>(from);
+    g.b.movepos = static_cast<count>(from);
     set_visible(g.p, element::feature_el, c.life);
 }
 
@@ -159,7 +159,7 @@ TEST(Ring, LetsTheLastDrawStandWhereNothingMayPass) {
     const ring_case nothing_passes = {"", 1, 1, 1, 90, false, true}; // from 14: only a 5, and no 5
     for (const int counted : {0, 1}) {
         set_up(t.g, nothing_passes, 14);
-        set(t.g.b.rolltries, counted);
+        t.g.b.rolltries = static_cast<count>(counted);
         t.world.draws.assign(40, 5);
         rolldice(t.g);
         EXPECT_EQ(t.g.b.boardpos, 19);
@@ -223,9 +223,9 @@ TEST(Gamble, RollsWithTheOddsOfTheRules) {
                     g.m.invincible = c.guarded ? "yes" : "no";
                     g.m.pcent = c.pcent;
                     g.m.win = c.win;
-                    set(g.b.cashrung, rung_of(c.win));
+                    g.b.cashrung = rung_of(c.win);
                     g.b.hilochoice = hi ? "hi" : "lo";
-                    set(g.b.lastdice, last);
+                    g.b.lastdice = static_cast<count>(last);
                     rolldice(g);
                     const int die = g.b.dice;
                     ++seen[static_cast<std::size_t>(die)];
@@ -241,7 +241,7 @@ TEST(Gamble, RollsWithTheOddsOfTheRules) {
 // ---- the awards on the reels ----
 
 // The rows that a draw reaches at a percentage, 0 where the row of the last spin stands.
-std::set<int> rows_drawn(game& g, void (*spin)(game&), count machine::*row, single pcent) {
+std::set<int> rows_drawn(game& g, handler spin, count machine::*row, single pcent) {
     std::set<int> rows;
     for (int i = 0; i < 400; ++i) {
         g.m.pcent = pcent;
@@ -254,7 +254,7 @@ std::set<int> rows_drawn(game& g, void (*spin)(game&), count machine::*row, sing
 
 TEST(Awards, DrawEveryRowOfTheirBandAndNoOther) {
     struct band {
-        void (*spin)(game&);
+        handler spin;
         count machine::*row;
         single pcent;
         int reach; // 0: no draw

@@ -52,8 +52,8 @@ TEST(Files, GameIsReadLineByLineAndWrittenBack) {
     EXPECT_EQ(m.streakbank, 0.04f) << "the streak bank stands before the win bank";
     EXPECT_EQ(m.winbank, 12.5f);
     EXPECT_EQ(m.housecut, 10.0f);
-    EXPECT_EQ(m.reel1pos, 16);
-    EXPECT_EQ(m.reel3pos, 7);
+    EXPECT_EQ(reel(m, 1).pos, 16);
+    EXPECT_EQ(reel(m, 3).pos, 7);
     EXPECT_EQ(m.currency, "usd");
     const std::string written = game_text(m);
     EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 17);

@@ -11,9 +11,9 @@ namespace hustle {
 namespace {
 
 void hold(game& g, bool one, bool two, bool three) {
-    g.m.reel1held = one ? "yes" : "no";
-    g.m.reel2held = two ? "yes" : "no";
-    g.m.reel3held = three ? "yes" : "no";
+    reel(g.m, 1).held = one ? "yes" : "no";
+    reel(g.m, 2).held = two ? "yes" : "no";
+    reel(g.m, 3).held = three ? "yes" : "no";
 }
 
 // Plays many free spins under one pattern of holds and counts the lines that fall.
@@ -25,13 +25,13 @@ int lines_fallen(testgame& t, bool one, bool two, bool three, int pairholds) {
         set_stop(g, 1, 1 + i % 16);
         set_stop(g, 2, 1 + i / 16 % 16);
         set_stop(g, 3, 1 + i / 256 % 16);
-        const bool stood = g.m.reel1sym == g.m.reel2sym && g.m.reel2sym == g.m.reel3sym;
+        const bool stood = all_alike(g.m);
         hold(g, one, two, three);
-        set(g.m.pairholds, pairholds);
+        g.m.pairholds = static_cast<count>(pairholds);
         drawreel1(g);
         drawreel2(g);
         drawreel3(g);
-        const bool line = g.m.reel1sym == g.m.reel2sym && g.m.reel2sym == g.m.reel3sym;
+        const bool line = all_alike(g.m);
         fallen += line && !stood;
     }
     return fallen;
@@ -86,7 +86,7 @@ TEST(Play, ThreeHeldReelsStandStillAndCountTheirNumbersAgain) {
     testgame t;
     for (int which = 1; which <= 3; ++which)
         set_stop(t.g, which, 4); // bars, with a 1 each: no line is looked for on the way
-    t.g.m.reel3sym = "melon";
+    reel(t.g.m, 3).sym = "melon";
     hold(t.g, true, true, true);
     t.g.m.pairholds = 2;
     const single in = t.g.m.moneyin;
@@ -95,7 +95,7 @@ TEST(Play, ThreeHeldReelsStandStillAndCountTheirNumbersAgain) {
     t.run(40);
     EXPECT_EQ(t.g.m.moneyin, in + 0.25f);
     EXPECT_EQ(t.g.m.trailvalue, 3);
-    EXPECT_EQ(t.g.m.reel1held, "no");
+    EXPECT_EQ(reel(t.g.m, 1).held, "no");
 }
 
 } // namespace

@@ -181,16 +181,16 @@ const waiting_state states[] = {
     {"no offer", [](Show&) {}, "Space plays", space,
      [](const game& g) { return is_running(g.p, timer::reelspin1) && g.m.credits == 19; }},
     {"holds offered", [](Show& t) { t.g.m.holdsoffered = "yes"; }, "Hold lamps flash: 1 2 3 hold a reel", '3',
-     [](const game& g) { return g.m.reel3held == "yes"; }},
+     [](const game& g) { return reel(g.m, 3).held == "yes"; }},
     {"a reel held",
      [](Show& t) {
          t.g.m.holdsoffered = "yes";
          t.key('1');
      },
-     "C clears the holds", 'C', [](const game& g) { return g.m.reel1held == "no"; }},
+     "C clears the holds", 'C', [](const game& g) { return reel(g.m, 1).held == "no"; }},
     {"dont hold any",
      [](Show& t) { t.g.m.holdsoffered = t.g.m.linepromised = "yes", t.g.m.holdsbarred = "true"; },
-     "Hold nothing: Space spins free", space, [](const game& g) { return g.m.reel1held == "no"; }},
+     "Hold nothing: Space spins free", space, [](const game& g) { return reel(g.m, 1).held == "no"; }},
     {"bad hold",
      [](Show& t) {
          t.g.m.holdsoffered = "yes";

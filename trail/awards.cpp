@@ -1,6 +1,8 @@
 #include "trail/awards.h"
 
+#include "core/bands.h"
 #include "core/bank.h"
+#include "core/reels.h"
 #include "trail/bonus.h"
 #include "trail/trail.h"
 
@@ -12,9 +14,12 @@ namespace {
 
 using enum element;
 
-// Boosts and nudges are given by bands of the payout percentage.
-constexpr single full_boost_from = 1, full_boost_to = 75;
-constexpr single five_nudges_to = 70, many_nudges_to = 85, few_nudges_to = 99999;
+// A boost of these many lamps with no draw deciding.
+constexpr band sure_boost[] = {{edge::below, 1, 0}, {edge::upto, 75, 5}};
+// Five nudges in the first band; the reach of a draw in the others.
+constexpr single five_nudges_to = 70;
+constexpr band nudge_reach[] = {
+    {edge::below, 0, 0}, {edge::upto, five_nudges_to, 5}, {edge::upto, 85, 5}, {edge::upto, 99999, 3}};
 
 void text(game& g) { line(g, wheel_texts[static_cast<std::size_t>(g.m.bonuspick - 1)]); }
 
@@ -30,7 +35,7 @@ void begin_game(game& g, timer what) {
 }
 
 void take_trailskill(game& g) {
-    set(g.m.trailvalue, 0);
+    g.m.trailvalue = 0;
     text(g);
     traildark(g);
     still_trail(g);
@@ -38,14 +43,14 @@ void take_trailskill(game& g) {
 }
 
 void take_selector(game& g) {
-    set(g.m.trailvalue, 0);
+    g.m.trailvalue = 0;
     text(g);
     traildark(g);
     begin_game(g, timer::selector);
 }
 
 void take_trailclimb(game& g) {
-    set(g.m.trailvalue, 0);
+    g.m.trailvalue = 0;
     text(g);
     still_trail(g);
     traildark(g);
@@ -55,43 +60,40 @@ void take_trailclimb(game& g) {
 void take_respin(game& g) {
     machine& m = g.m;
     text(g);
-    m.reel1num = m.reel2num = m.reel3num = 0;
+    for (reel_state& r : m.reels)
+        r.num = 0;
     start_timer(g.p, timer::reelspin1);
 }
 
 void take_trailboost(game& g) {
     machine& m = g.m;
     text(g);
-    set(m.boostcount, draw(g, 5));
-    if (m.pcent >= full_boost_from && m.pcent <= full_boost_to)
-        set(m.boostcount, 5);
-    set(m.trailvalue, m.trailvalue + m.boostcount);
+    m.boostcount = draw(g, 5);
+    if (const count sure = band_figure(m.pcent, sure_boost); sure != 0)
+        m.boostcount = sure;
+    m.trailvalue += m.boostcount;
     start_timer(g.p, timer::bonusnumbers);
 }
 
 void take_superboost(game& g) {
     text(g);
-    set(g.m.boostcount, 5);
-    set(g.m.trailvalue, 9);
+    g.m.boostcount = 5;
+    g.m.trailvalue = 9;
     start_timer(g.p, timer::bonusnumbers);
 }
 
 void take_nudges(game& g) {
     machine& m = g.m;
-    set(m.nudges, 0);
+    m.nudges = 0;
     text(g);
-    if (m.pcent >= 0 && m.pcent <= five_nudges_to)
-        set(m.nudges, 5);
-    else if (m.pcent > five_nudges_to && m.pcent <= many_nudges_to)
-        set(m.nudges, draw(g, 5));
-    else if (m.pcent > many_nudges_to && m.pcent <= few_nudges_to)
-        set(m.nudges, draw(g, 3));
+    if (const count reach = band_figure(m.pcent, nudge_reach); reach != 0)
+        m.nudges = m.pcent <= five_nudges_to ? reach : draw(g, reach);
     start_timer(g.p, timer::addnudges);
 }
 
 void take_addagain(game& g) {
     machine& m = g.m;
-    set(m.trailvalue, m.trailvalue + m.reel1num + m.reel2num + m.reel3num);
+    m.trailvalue += numbers_shown(m);
     starttrailrun(g);
     disable(g.p, stopper);
     figuresline(g);
@@ -100,9 +102,9 @@ void take_addagain(game& g) {
 
 void take_spinawin(game& g) {
     machine& m = g.m;
-    set(m.nudges, 0);
+    m.nudges = 0;
     text(g);
-    set(m.winspinsleft, 1);
+    m.winspinsleft = 1;
     m.award = award::winspins;
     start_timer(g.p, timer::start_winspins);
     disable(g.p, stopper);
@@ -114,7 +116,7 @@ void take_trailstopper(game& g) {
 }
 
 void take_numberrun(game& g) {
-    set(g.m.nudges, 0);
+    g.m.nudges = 0;
     text(g);
     still_trail(g);
     start_timer(g.p, timer::numberrun);

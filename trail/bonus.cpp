@@ -33,11 +33,11 @@ constexpr int intro_steps = 9;
 // One tick of an intro; true on its last step.
 bool intro(game& g, std::string_view text) {
     machine& m = g.m;
-    set(m.bonuspick, 1);
+    m.bonuspick = 1;
     const bool last = m.bonusintro >= intro_steps;
     if (!last)
         line(g, m.bonusintro % 2 == 0 ? text : "");
-    set(m.bonusintro, last ? 1 : m.bonusintro + 1);
+    m.bonusintro = next_of(m.bonusintro, intro_steps);
     return last;
 }
 
@@ -47,7 +47,7 @@ void bonuschance(game& g) {
     machine& m = g.m;
     panel& p = g.p;
     const bool true_skill = draw(g, 10) == 10;
-    set(m.nudges, 0);
+    m.nudges = 0;
     if (m.win != 0 || is_running(p, timer::numberrun))
         return;
     disable(p, start);
@@ -82,7 +82,7 @@ void start_superbonus(game& g) {
 void bonus_timer(game& g) {
     machine& m = g.m;
     do
-        set(m.bonuspick, draw(g, static_cast<int>(wheel_texts.size())));
+        m.bonuspick = draw(g, static_cast<int>(wheel_texts.size()));
     while (m.bonuspick == m.lastbonuspick);
     play(g, sound::pick);
     line(g, wheel_texts[static_cast<std::size_t>(m.bonuspick - 1)]);

@@ -18,13 +18,13 @@ void caught(game& g) {
     machine& m = g.m;
     panel& p = g.p;
     if (m.climbpair != last_pair) {
-        set(m.climbpair, m.climbpair + 1);
+        ++m.climbpair;
         return;
     }
     disable(p, stopper);
     stop_timer(p, timer::trailclimb);
-    set(m.climbpair, 1);
-    set(m.trailvalue, 9);
+    m.climbpair = 1;
+    m.trailvalue = 9;
     fulltrail(g);
 }
 
@@ -38,9 +38,9 @@ void missed(game& g) {
         enable(p, start);
         figuresline(g);
     }
-    set(m.climbpair, 1);
+    m.climbpair = 1;
     stop_timer(p, timer::trailclimb);
-    set(m.trailvalue, below);
+    m.trailvalue = static_cast<count>(below);
     if (bonus)
         bonuschance(g);
     else if (below > 0)

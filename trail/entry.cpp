@@ -18,11 +18,11 @@ void nothing_to_play(game& g) {
     panel& p = g.p;
     disable(p, start);
     set_picture(p, start, art::startpicdark);
-    set(m.nudges, 0);
+    m.nudges = 0;
     set_picture(p, nudgenow, art::nudgenowpicdark);
     set_picture(p, picture1, art::nudge0);
     set_picture(p, cancelbutton, art::cancelpicdark);
-    set(m.pairholds, 0);
+    m.pairholds = 0;
     m.linepromised = truth::is_not;
     clearholds(g);
 }
@@ -90,8 +90,8 @@ void chase_buttons(game& g) {
 void open_board(game& g) {
     machine& m = g.m;
     stop_timer(g.p, timer::feature_start);
-    set(m.awardwait, 0);
-    set(m.lampphase, 0);
+    m.awardwait = 0;
+    m.lampphase = 0;
     m.featuremode = m.win == 1 && m.trailvalue >= 9 ? mode::feature : mode::hilo;
     load_screen(g, screen::feature);
 }
@@ -111,8 +111,8 @@ void feature_start(game& g) {
     }
     flash_panel(g);
     chase_buttons(g);
-    set(m.awardwait, m.awardwait + 1);
-    set(m.lampphase, m.lampphase >= 4 ? 1 : m.lampphase + 1);
+    ++m.awardwait;
+    m.lampphase = next_of(m.lampphase, 4);
 }
 
 } // namespace hustle

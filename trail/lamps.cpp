@@ -89,7 +89,7 @@ void trail_flash(game& g) {
     if (m.flashcount >= 10) {
         light_lamps_to(g, m.trailvalue);
         stop_timer(p, timer::trail_flash);
-        set(m.flashcount, 0);
+        m.flashcount = 0;
         show(p, element::trailheld);
         return;
     }
@@ -99,17 +99,17 @@ void trail_flash(game& g) {
         show(p, element::trailheld);
         light_lamps_to(g, m.trailvalue);
     }
-    set(m.flashcount, m.flashcount + 1);
+    ++m.flashcount;
 }
 
 void init_trail_timer(game& g) {
     machine& m = g.m;
     dark_lamp(g, lamps + 1 - m.walkstep);
-    set(m.walkstep, m.walkstep + 1);
+    ++m.walkstep;
     if (m.walkstep <= lamps)
         return;
-    set(m.walkstep, 1);
-    set(m.nudgemode, 1);
+    m.walkstep = 1;
+    m.nudgemode = 1;
     stop_timer(g.p, timer::init_trail_timer);
 }
 

@@ -1,4 +1,5 @@
 // The repeat chance: after a jackpot, or a spin of the streak, does it happen again?
+#include "core/bands.h"
 #include "core/bank.h"
 #include "panel/prizes.h"
 #include "trail/bonus.h"
@@ -12,17 +13,20 @@ using enum element;
 enum class answer { no = 1, yes = 2, either }; // as `repeatphase` counts
 
 constexpr single streak_limit = 10;
-constexpr single low_band = 75, middle_band = 100; // of pcent
-constexpr int repeats_in_low_band = 3;
+// What a jackpot's repeat is left to: the count of those given, or the player's timing.
+constexpr count by_count = 1, by_timing = 2;
+constexpr band jackpot_repeats[] = {{edge::upto, 75, by_count}, {edge::upto, 100, by_timing}};
+constexpr int repeats_by_count = 3;
 constexpr int intro_end = 10;
 
 // What the money has settled before the press. Only the middle band is left to the player's timing.
 answer settled(const machine& m) {
     if (m.award == award::winstreak)
         return m.streaktotal <= streak_limit ? answer::yes : answer::no;
-    if (m.pcent <= low_band)
-        return m.repeatcount < repeats_in_low_band ? answer::yes : answer::no;
-    return m.pcent <= middle_band ? answer::either : answer::no;
+    const count left_to = band_figure(m.pcent, jackpot_repeats);
+    if (left_to == by_count)
+        return m.repeatcount < repeats_by_count ? answer::yes : answer::no;
+    return left_to == by_timing ? answer::either : answer::no;
 }
 
 void answer_yes(game& g) {
@@ -34,7 +38,7 @@ void answer_yes(game& g) {
     add(m.credits, -1);
     m.win = jackpot_win;
     start_timer(g.p, timer::wintobank);
-    set(m.repeatcount, m.repeatcount + 1);
+    ++m.repeatcount;
 }
 
 void answer_no(game& g) {
@@ -43,7 +47,7 @@ void answer_no(game& g) {
     disable(g.p, stopper);
     enable(g.p, start);
     if (m.award == award::jackpot)
-        set(m.repeatcount, 0);
+        m.repeatcount = 0;
 }
 
 } // namespace
@@ -54,14 +58,14 @@ void start_repeatchance(game& g) {
         start_timer(g.p, timer::yes_no);
         enable(g.p, stopper);
         stop_timer(g.p, timer::start_repeatchance);
-        set(m.repeatintro, 0);
+        m.repeatintro = 0;
         return;
     }
     if (m.repeatintro == 0)
         play(g, sound::lucky2);
     const bool text = m.repeatintro == 0 || m.repeatintro % 2 == 1;
     line(g, text ? "       REPEAT CHANCE" : "");
-    set(m.repeatintro, m.repeatintro + 1);
+    ++m.repeatintro;
 }
 
 void yes_no(game& g) {
@@ -80,7 +84,7 @@ void yes_no(game& g) {
         }
     }
     const bool yes = m.repeatphase == 1;
-    set(m.repeatphase, yes ? 2 : 1);
+    m.repeatphase = next_of(m.repeatphase, 2);
     play(g, yes ? sound::yes : sound::no);
     m.repeatanswer = yes ? flag::yes : flag::no;
     line(g, yes ? "YES    REPEAT CHANCE" : "       REPEAT CHANCE     NO");

@@ -1,21 +1,12 @@
 // In a Spin: the three reels roll down the strip as one, and the stop button takes what they show.
 #include "core/reels.h"
-#include "core/upward.h"
 #include "trail/bonus.h"
 
 namespace hustle {
 
 namespace {
 
-constexpr int hand_over = 22;
 constexpr int stops = 16;
-
-constexpr std::array<std::string_view, 4> get_ready = {
-    "     >    GET READY    <",
-    "      >   GET READY   <",
-    "       >  GET READY  <",
-    "        > GET READY <",
-};
 
 // The prizes of the roll are its own, not those of a line.
 struct prize_row {
@@ -37,30 +28,11 @@ void show_step(game& g, int step) {
     machine& m = g.m;
     for (int which = 1; which <= 3; ++which)
         show_stop(g, which, stops + 1 - step);
-    m.win = prize(m.reel1sym);
+    m.win = prize(reel(m, 1).sym);
     line(g, step % 2 == 1 ? "      * IN A SPIN *" : "");
 }
 
 } // namespace
-
-void feature_start_letsspin(game& g) {
-    board& b = g.b;
-    panel& p = g.p;
-    if (b.readystep == 1 || b.readystep == hand_over)
-        board_line(g, "       * IN A SPIN *");
-    else if (b.readystep >= 10 && b.readystep < hand_over)
-        board_line(g, get_ready[static_cast<std::size_t>((b.readystep - 10) % 4)]);
-    if (b.readystep < hand_over) {
-        set(b.readystep, b.readystep + 1);
-        return;
-    }
-    g.m.win = 0;
-    set(b.readystep, 0);
-    enable(p, element::stopper);
-    start_timer(p, timer::rollem);
-    stop_timer(p, timer::feature_start_letsspin);
-    unload_screen(g, screen::feature);
-}
 
 void rollem(game& g) {
     machine& m = g.m;
@@ -68,7 +40,7 @@ void rollem(game& g) {
     // Before the first roll since the program started there is no step to show.
     if (m.rollstep >= 1 && m.rollstep <= stops)
         show_step(g, m.rollstep);
-    set(m.rollstep, m.rollstep >= stops ? 1 : m.rollstep + 1);
+    m.rollstep = next_of(m.rollstep, stops);
 }
 
 void roll_stop(game& g) {

@@ -8,8 +8,8 @@ namespace hustle {
 
 void starttrailrun(game& g) {
     machine& m = g.m;
-    const bool first = m.reel1num > 0 && m.linepromised == truth::is_not;
-    if (first || m.reel2num > 0 || m.reel3num > 0) {
+    const bool first = reel(m, 1).num > 0 && m.linepromised == truth::is_not;
+    if (first || reel(m, 2).num > 0 || reel(m, 3).num > 0) {
         m.trailtarget = m.trailvalue;
         start_timer(g.p, timer::numbers2);
     } else {

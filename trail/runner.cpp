@@ -8,18 +8,16 @@ namespace hustle {
 namespace {
 
 void finish(game& g) {
-    set(g.m.runnersteps, 0);
+    g.m.runnersteps = 0;
     stop_timer(g.p, timer::numberrun);
     figuresline(g);
 }
 
 void step_all_reels(game& g) {
     machine& m = g.m;
-    for (int which = 1; which <= 3; ++which) {
-        const int position = reel(g, which).pos;
-        set_stop(g, which, position <= 1 ? 16 : position - 1);
-    }
-    set(m.trailvalue, m.trailvalue + m.reel1num + m.reel2num + m.reel3num);
+    for (int which = 1; which <= 3; ++which)
+        set_stop(g, which, before_of(reel(m, which).pos, 16));
+    m.trailvalue += numbers_shown(m);
 }
 
 } // namespace
@@ -39,7 +37,7 @@ void numberrun(game& g) {
     step_all_reels(g);
     play(g, sound::addnudge);
     starttrailrun(g);
-    set(m.runnersteps, m.runnersteps + 1);
+    ++m.runnersteps;
 }
 
 } // namespace hustle

@@ -16,11 +16,11 @@ void jump(game& g) {
     m.selectorlast = m.trailvalue;
     dark_lamps_to(g, m.trailvalue);
     do
-        set(m.trailvalue, draw(g, 9));
+        m.trailvalue = draw(g, 9);
     while (m.trailvalue == m.selectorlast);
     // A machine that has paid its share lets nobody onto the board this way.
     if (m.pcent >= 90 && m.trailvalue == 9)
-        set(m.trailvalue, 8);
+        m.trailvalue = 8;
     light_lamps_to(g, m.trailvalue);
     play(g, sound::select);
 }
@@ -31,12 +31,12 @@ void selector(game& g) {
     machine& m = g.m;
     panel& p = g.p;
     jump(g);
-    set(m.selectorticks, m.selectorticks + 1);
+    ++m.selectorticks;
     if (m.selectorticks < jumps)
         return;
     figuresline(g);
     enable(p, start);
-    set(m.selectorticks, 0);
+    m.selectorticks = 0;
     disable(p, stopper);
     stop_timer(p, timer::selector);
     if (lamp_lit(g, 9))
@@ -48,7 +48,7 @@ void selector(game& g) {
 void selector_stop(game& g) {
     machine& m = g.m;
     panel& p = g.p;
-    set(m.selectorticks, 0);
+    m.selectorticks = 0;
     disable(p, stopper);
     set_picture(p, stopper, art::stoppicdark);
     stop_timer(p, timer::selector);

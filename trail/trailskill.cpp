@@ -26,9 +26,9 @@ void land(game& g) {
 void trailskill(game& g) {
     machine& m = g.m;
     play(g, sound::addtrail);
-    set(m.trailtarget, m.trailtarget >= 9 ? 1 : m.trailtarget + 1);
+    m.trailtarget = next_of(m.trailtarget, 9);
     m.trailvalue = m.trailtarget;
-    dark_lamp(g, m.trailtarget == 1 ? 9 : m.trailtarget - 1);
+    dark_lamp(g, before_of(m.trailtarget, 9));
     light_lamp(g, m.trailtarget);
 }
 
@@ -44,7 +44,8 @@ void trailstopper(game& g) {
     if (m.trailtarget >= 5)
         dark_lamp(g, m.trailtarget);
     play(g, sound::pick);
-    set(m.trailtarget, draw(g, 5) + 4);
+    m.trailtarget = draw(g, 5);
+    m.trailtarget += 4;
     m.trailvalue = m.trailtarget;
     light_lamp(g, m.trailtarget);
 }
