@@ -84,7 +84,7 @@ void rolldice(game& g) {
 void feature_movetimer(game& g) {
     board& b = g.b;
     play(g, sound::move);
-    dark_square(g, before_of(b.movepos, 24));
+    dark_square(g, b.movepos == 1 ? 24 : b.movepos - 1);
     light_square(g, b.movepos);
     if (b.movepos != b.boardpos) {
         b.movepos = next_of(b.movepos, 24);

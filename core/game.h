@@ -208,10 +208,7 @@ struct game {
 // A sum is made in double and rounded to single at the store.
 inline void add(single& value, double amount) { value = static_cast<single>(value + amount); }
 // Steps and figures that run from 1 to n and begin again; one that stands past n begins again too.
-inline count next_of(count now, int n) {
-    ++now;
-    return now > n ? count{1} : now;
-}
+inline count next_of(count now, int n) { return static_cast<count>(now >= n ? 1 : now + 1); }
 // And downward: 1 is followed by n.
 inline count before_of(count now, int n) {
     --now;
@@ -225,9 +222,6 @@ inline bool still_waiting(count& ticks, int n) {
     ++ticks;
     return true;
 }
-
-// A handler: what a timer, a press or a screen's event runs.
-using handler = void (*)(game&);
 
 // The reels by their number, 1 to 3.
 inline reel_state& reel(machine& m, int which) { return m.reels[static_cast<std::size_t>(which - 1)]; }

@@ -177,7 +177,7 @@ void pseudo_nudges(game& g) {
 void skill_nudges(game& g) {
     machine& m = g.m;
     const bool busy = figure_tick(g);
-    m.nudges = next_of(m.nudges, 5);
+    m.nudges = static_cast<count>(m.nudges == 5 ? 1 : m.nudges + 1); // more than five in hand run on
     if (!busy && m.nudges >= 1 && m.nudges <= 5)
         set_picture(g.p, picture1, nth(art::nudge1, m.nudges));
     play(g, sound::ping);

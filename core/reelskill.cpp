@@ -49,7 +49,7 @@ void reelskill(game& g) {
         line(g, m.spinstep % 2 == 1 ? "" : skill_text);
     }
     reel(m, 1).pos = before_of(reel(m, 1).pos, stops);
-    m.spinstep = next_of(m.spinstep, 4);
+    m.spinstep = static_cast<count>(m.spinstep == 4 ? 1 : m.spinstep + 1); // shared: may stand past 4
 }
 
 void reelskill_stop1(game& g) {

@@ -53,9 +53,11 @@ constexpr int wins[] = {0, 2, 10, 16, 20, 24, 30, 36, 40, 50, 60, 80, 150, 300};
 constexpr int bounds[] = {0, 65, 70, 74, 75, 76, 80, 84, 85, 86, 90, 91, 94, 95, 96, 100};
 
 bool is_whole(const field_row& f) {
-    return std::visit(each{[](count machine::*) { return true; }, [](count board::*) { return true; },
-                           [](count table_fields::*) { return true; }, [](auto) { return false; }},
-                      f.where);
+    return std::visit(
+        each{[](const reel_place& r) { return std::holds_alternative<count reel_state::*>(r.what); },
+             [](count machine::*) { return true; }, [](count board::*) { return true; },
+             [](count table_fields::*) { return true; }, [](auto) { return false; }},
+        f.where);
 }
 
 // The monkey's own choices; the machine has a generator of its own.

@@ -50,9 +50,13 @@ int field_value(int value) {
     return bears ? bears->least + value % 64 % (bears->most - bears->least + 1) : value % 64;
 }
 void set_field(game& g, int value) {
-    const int to = field_value(value);
-    std::visit(each{[&](count machine::*f) { set(g.m.*f, to); }, [&](count board::*f) { set(g.b.*f, to); },
-                    [&](count table_fields::*f) { set(g.t.*f, to); }, [](auto) {}},
+    const auto to = static_cast<count>(field_value(value));
+    const auto set_reel = [&](const reel_place& f) {
+        std::visit(each{[&](count reel_state::*what) { reel(g.m, f.which).*what = to; }, [](auto) {}},
+                   f.what);
+    };
+    std::visit(each{set_reel, [&](count machine::*f) { g.m.*f = to; }, [&](count board::*f) { g.b.*f = to; },
+                    [&](count table_fields::*f) { g.t.*f = to; }, [](auto) {}},
                as_field(value).where);
 }
 std::string field_text(int value) {

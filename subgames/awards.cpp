@@ -94,7 +94,7 @@ void feature_savedbyextra(game& g) {
         feature_enablebuttons(g);
         stop_timer(g.p, timer::feature_savedbyextra);
     }
-    g.b.readystep = next_of(g.b.readystep, 25);
+    g.b.readystep = static_cast<count>(step == 25 ? 1 : step + 1); // left past it by another game it runs on
 }
 
 void feature_invincibletimer(game& g) {
