@@ -11,7 +11,9 @@ QString data_folder() {
     QString folder = qEnvironmentVariable("HUSTLE_DATA");
     if (folder.isEmpty()) {
         QString beside = QCoreApplication::applicationDirPath();
-        if (QFileInfo(beside).isWritable())
+        // An installed program keeps its player's files out of the system's folders, for root too.
+        const bool installed = QFileInfo(beside + "/../share/hoardhustle").isDir();
+        if (!installed && QFileInfo(beside).isWritable())
             return beside;
         folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/hoardhustle";
     }
