@@ -2,44 +2,19 @@
 //   panelshot SCRIPT SCREEN PICTURE.png [WIDTH]
 // The pictures of the help pages and of the README are made so, and anyone can look at a state of
 // the machine without playing up to it.
-#include "desktop/painting/painting.h"
+#include "desktop/shot/still.h"
 #include "script/commands.h"
 #include "script/reading.h"
 
 #include <QGuiApplication>
 #include <QImage>
-#include <QPainter>
 
-#include <cmath>
 #include <cstdio>
 #include <iostream>
 
 namespace {
 
 using namespace hustle;
-
-QImage painted(const game& g, screen what, int width) {
-    const panel& p = g.p;
-    const double pixel = width / (row(what).width / 15.0);
-    QImage image(width, static_cast<int>(std::lround(row(what).height / 15.0 * pixel)), QImage::Format_RGB32);
-    image.fill(desktop::ground_colour());
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    desktop::picture_store pictures;
-    desktop::dot_store dots;
-    desktop::lamp_store lamps;
-    desktop::strip_store strips;
-    stage show;
-    take_in(show, g, 0);
-    advance(show, g, 0);
-    desktop::canvas c{painter, pictures, dots, lamps, strips, show, pixel, {}};
-    for (const bool pictures_first : {true, false})
-        for (const element_row& r : elements_of(what))
-            if ((r.what == kind::picture) == pictures_first)
-                desktop::draw_element(c, p, r.id, desktop::device_place(p, r.id, pixel, {}), false);
-    return image;
-}
 
 const screen_row* screen_named(std::string_view wanted) {
     for (const screen_row& s : screen_rows())
