@@ -3,6 +3,7 @@
 // The pictures of the help pages and of the README are made so, and anyone can look at a state of
 // the machine without playing up to it.
 #include "desktop/shot/still.h"
+#include "panel/sheet.h"
 #include "script/commands.h"
 #include "script/reading.h"
 

@@ -73,6 +73,7 @@ void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& sh
 
 int main(int count, char** words) {
     CLI::App app{"Plays the machine by the million and tells what it pays."};
+    app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast); // the last word counts
     app.require_subcommand(1);
     app.set_version_flag("--version", std::string("hustlelab ") + HUSTLE_VERSION);
     run_options o;
