@@ -7,7 +7,8 @@
 namespace hustle::desktop {
 
 // The folder of game.dat and hscore.dat: HUSTLE_DATA where it is set; the program's own folder
-// while that can be written to and is not an installed one's; otherwise the user's data folder. It is made if it is missing.
+// while that can be written to and is not an installed one's; otherwise the user's data folder. It is made if
+// it is missing.
 QString data_folder();
 
 // A folder that ships with the program ("sounds", "help"): beside the program, or in the share
