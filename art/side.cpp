@@ -4,6 +4,7 @@
 #include "panel/prizes.h"
 
 #include <array>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -42,7 +43,7 @@ void at(pen& p, symbol s, double x, double y, double scale, money sign = money::
 
 // Pounds as a sign tells them: whole ones without pence.
 std::string figures(float pounds) {
-    const int pence = static_cast<int>(pounds * 100 + 0.5F);
+    const int pence = static_cast<int>(std::lround(pounds * 100));
     std::string text = std::to_string(pence / 100);
     if (pence % 100 != 0)
         text += (pence % 100 < 10 ? ".0" : ".") + std::to_string(pence % 100);

@@ -56,7 +56,7 @@ bool whole_pence(float amount, short_text& text) {
     const double pence = std::abs(static_cast<double>(amount)) * 100;
     if (!(pence < 100000))
         return false;
-    const auto nearest = static_cast<unsigned>(pence + 0.5);
+    const auto nearest = static_cast<unsigned>(std::floor(pence + 0.5));
     if (std::abs(pence - nearest) > 0.49) // a half to the last place of a single
         return false;
     if (amount < 0 && nearest > 0)
