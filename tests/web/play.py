@@ -212,6 +212,7 @@ def measure():
     assert size <= 3_000_000, size
     with Browser() as b:
         b.open("?seed=1&still")
+        b.until("performance.getEntriesByName('first-contentful-paint').length > 0")
         paint = b.value("performance.getEntriesByName('first-contentful-paint')[0].startTime")
         b.until("performance.getEntriesByName('machine').length > 0")
         machine = b.value("performance.getEntriesByName('machine')[0].startTime")
