@@ -124,7 +124,7 @@ constexpr finish usual{sound::start, 14, 0};
 constexpr finish finishes[] = {
     // wave         room  dB
     {s::reelstop,    6,   0}, {s::hold1,      8,  -1}, {s::hold2,     8, -1}, {s::hold3,    8,  -1},
-    {s::cancel,      8,  -1}, {s::addnudge,   6,  -1}, {s::none,      4, -5}, {s::win2bank, 0,  -4},
+    {s::cancel,      8,  -1}, {s::addnudge,   6,  -1}, {s::win2bank, 0,  -4},
     {s::win,        18,   1}, {s::dong,      22,   0}, {s::addtrail, 10, -2}, {s::no,       8,   0},
     {s::yes,        10,   0}, {s::pick,       4,  -5}, {s::ping,      6, -5}, {s::move,     5,  -4},
     {s::reelspin,    6,  -3}, {s::add,        6,  -2}, {s::lucky2,   26,  0}, {s::feature, 20,   1},

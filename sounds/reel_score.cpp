@@ -46,9 +46,6 @@ constexpr phrase phrases[] = {
     {s::addnudge,  lead,     0,   0,  85,  90, "d5>a5"},
     {s::addnudge,  tick,     0,   0,  20,  60, "d6"},
 
-    {s::none,      tick,     0,   0,  30,  60, "d4"},
-    {s::none,      thump,    8,   0,  90,  70, "d3"},
-
     {s::win2bank,  click,    0,   0,   8,  40, "a7"},
     {s::win2bank,  coin,     2,   0,  50, 100, "c7"},
     {s::win2bank,  coin,    12,   0,  40,  50, "f7"},

@@ -15,6 +15,7 @@ namespace {
 constexpr float ceiling = 0.7F;   // -3 dB: the loudest sample
 constexpr float loudness = 0.24F; // of the loudest 80 ms of a wave, as a mean
 constexpr float silence = 0.0015F;
+constexpr std::size_t rest = rate / 10; // samples of a wave that has no notes: it only ends what plays
 
 void play_phrase(std::vector<float>& wave, const phrase& p, dice& d) {
     double at = p.at / 1000.0;
@@ -122,6 +123,8 @@ std::vector<std::int16_t> render(sound which) {
         for (const phrase& p : score)
             if (p.wave == which)
                 play_phrase(wave, p, d);
+    if (wave.empty())
+        return std::vector<std::int16_t>(rest, 0);
     const finish f = finish_of(which);
     add_room(wave, f.room);
     lift(wave);
