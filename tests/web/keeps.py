@@ -16,7 +16,7 @@ GAME = "localStorage.getItem('hoardhustle/game.dat')"
 def play_once(b):
     """Presses Start; a part of the stake goes to the streak bank at once, whatever the reels bring."""
     before = b.get("streakbank")
-    b.until("hustle.get('main.start.enabled')")
+    b.until("hustle.get('main.loaded') && hustle.get('main.start.enabled')")
     b.key(" ", "Space", 32)
     b.until(f"hustle.get('streakbank') !== {before}")
 
