@@ -11,7 +11,7 @@ namespace {
 constexpr std::array<number, win_limits.size()> win_units = [] {
     std::array<number, win_limits.size()> units{};
     for (std::size_t i = 0; i < units.size(); ++i)
-        units[i] = static_cast<number>(win_limits[i] / pounds_of_unit + 0.5);
+        units[i] = static_cast<number>(win_limits[i] * units_of_pound); // exact
     return units;
 }();
 

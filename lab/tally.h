@@ -14,7 +14,7 @@ using number = std::uint64_t;
 
 inline constexpr number stake_units = 5;
 inline constexpr number step_units = 4;
-inline constexpr double pounds_of_unit = 0.05;
+inline constexpr double units_of_pound = 20;
 
 // The way in which a payout was won.
 enum class source : std::uint8_t {

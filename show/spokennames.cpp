@@ -78,7 +78,7 @@ std::string_view symbol(const machine& m, int reel) {
     return sym == "bseven" ? std::string_view("blue seven") : sym;
 }
 
-std::string lamp(std::string name, bool lit) { return lit ? name + ", lit" : name; }
+std::string lamp(const std::string& name, bool lit) { return lit ? name + ", lit" : name; }
 
 std::string hold_name(const game& g, element e, int n) {
     const art a = at(g.p, e).picture;

@@ -206,7 +206,7 @@ void give(order o) {
     const std::scoped_lock held(shared.lock);
     if (shared.deaf)
         return;
-    shared.orders.push_back(std::move(o));
+    shared.orders.push_back(o);
     shared.changed.notify_all();
 }
 

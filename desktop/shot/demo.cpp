@@ -19,7 +19,7 @@ namespace {
 using namespace hustle;
 
 constexpr std::uint64_t usual_seed = 5; // its session has all that there is to see
-constexpr std::int64_t longest = 20 * 60'000;
+constexpr std::int64_t longest = 20 * std::int64_t{60'000};
 constexpr int reaction = 300;
 
 struct sights {

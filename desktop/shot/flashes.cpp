@@ -28,6 +28,11 @@ const std::array<float, 256>& linear() {
     return table;
 }
 
+// Where a point stands in rows of w, one behind the other.
+std::size_t place(int x, int y, int w) {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(w) + static_cast<std::size_t>(x);
+}
+
 // A swing has been made; true where seven fall within a second: more than three pairs.
 bool note(swings& s, int way, std::int64_t ms) {
     s.way = static_cast<std::int8_t>(way);
@@ -71,12 +76,12 @@ void begin(std::vector<swings>& all, std::size_t i, float value) {
 // The sum over the block that holds most, by a table of sums from the upper left corner.
 void take_worst(const std::vector<swings>& all, QSize size, std::int64_t ms, flash_share& worst) {
     const int w = size.width(), h = size.height();
-    std::vector<int> sums(static_cast<std::size_t>((w + 1) * (h + 1)), 0);
-    const auto at = [&](int x, int y) -> int& { return sums[static_cast<std::size_t>(y * (w + 1) + x)]; };
+    std::vector<int> sums(place(w, h, w + 1) + 1, 0);
+    const auto at = [&](int x, int y) -> int& { return sums[place(x, y, w + 1)]; };
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < w; ++x)
-            at(x + 1, y + 1) = at(x, y + 1) + at(x + 1, y) - at(x, y) +
-                               (all[static_cast<std::size_t>(y * w + x)].flashes_until >= ms);
+            at(x + 1, y + 1) =
+                at(x, y + 1) + at(x + 1, y) - at(x, y) + (all[place(x, y, w)].flashes_until >= ms);
     const int bw = static_cast<int>(std::lround(w * block_width)),
               bh = static_cast<int>(std::lround(h * block_height));
     int most = 0;
@@ -93,7 +98,7 @@ void measure(flash_meter& m, const QImage& picture, const QRegion& changed, std:
     const int w = picture.width(), h = picture.height();
     if (m.fresh) {
         m.size = picture.size();
-        m.light.resize(static_cast<std::size_t>(w * h));
+        m.light.resize(place(0, h, w));
         m.red.resize(m.light.size());
     }
     bool light_flashes = false, red_flashes = false;
@@ -102,7 +107,7 @@ void measure(flash_meter& m, const QImage& picture, const QRegion& changed, std:
         for (int y = part.top(); y <= part.bottom(); ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
             for (int x = part.left(); x <= part.right(); ++x) {
-                const auto i = static_cast<std::size_t>(y * w + x);
+                const std::size_t i = place(x, y, w);
                 const light_of_point now = look(line[x]);
                 if (m.fresh) {
                     begin(m.light, i, now.luminance);

@@ -172,7 +172,7 @@ std::string csv_text(const result& r) {
     for (const record& m : r.machines) {
         const tally& t = m.counts;
         const auto pounds = [&](number units) {
-            return amount(static_cast<double>(units) * pounds_of_unit, 2);
+            return amount(static_cast<double>(units) / units_of_pound, 2);
         };
         out << policies()[static_cast<std::size_t>(r.t.policy)].name << ',' << m.machine << ',' << t.plays
             << ',' << pounds(t.staked) << ',' << pounds(t.banked) << ','

@@ -104,6 +104,7 @@ int main(int count, char** words) {
             return 0;
         }
         std::vector<result> all;
+        all.reserve(results.size());
         for (const std::string& name : results)
             all.push_back(read_result(read_file(name), name));
         const std::string page = page_of(all);

@@ -1,6 +1,7 @@
 #include "lab/program/progress.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <string>
 
@@ -9,7 +10,7 @@ namespace hustle::lab {
 namespace {
 
 std::string duration(double seconds) {
-    const auto s = static_cast<long>(seconds + 0.5);
+    const auto s = std::lround(seconds);
     char text[32];
     if (s >= 3600)
         std::snprintf(text, sizeof text, "%ld h %02ld min", s / 3600, s / 60 % 60);
