@@ -1,5 +1,4 @@
-// The two stored files: one value to a line, lines ended by CR LF, words in double quotes.
-#include "core/start.h"
+#include "core/files.h"
 
 #include "panel/sheet.h"
 #include "panel/text.h"

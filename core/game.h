@@ -180,16 +180,17 @@ struct board {
     count ladderpick = 0; // 1 features come next, 2 cash; 0 before the first tick
 };
 
-// The fields of Entername and Highscore.
+// The fields of Entername, the first three, and of Highscore.
 struct table_fields {
-    std::string entrytext;
-    count entrycount = 0;
-    count submitflash = 0;
-    single swapscore = 0;
+    std::string entrytext; // the name as told, in front of it blanks up to fifteen characters
+    count entrycount = 0;  // blanks put in front, 0 to 15
+    count submitflash = 0; // picture of the form's button next: 0 dark, 1 light
+    single swapscore = 0;  // pounds; with its name what the sort of the table holds in hand
     std::string swapname;
-    count flashrow = 0;
-    count rowflash = 0;
-    count buttonflash = 0;
+    count flashrow = 0; // row of the new score, 1 to 10; 0 before the first
+    count rowflash = 0; // what the next tick makes of that row: 1 dark, 2 light; 0 nothing yet
+    count buttonflash =
+        0; // pictures of the buttons next: 0 return and exit dark, 1 light; reset the other way
 };
 
 struct game;

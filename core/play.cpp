@@ -3,6 +3,7 @@
 #include "core/bank.h"
 #include "core/nudges.h"
 #include "core/reels.h"
+#include "core/typedtexts.h"
 #include "core/upward.h"
 #include "core/wins.h"
 #include "panel/sheet.h"
@@ -17,11 +18,7 @@ using enum element;
 void free_respin(game& g) {
     machine& m = g.m;
     m.holdsoffered = flag::no;
-    for (const timer text : {timer::letemspin, timer::dontholdany}) {
-        stop_timer(g.p, text);
-        set_interval(g.p, text, 10);
-    }
-    m.textstep = 0;
+    cut_typed_texts(g);
     play(g, sound::like_it);
     start_timer(g.p, timer::ilikeit);
     m.spinwait = 0;

@@ -1,4 +1,5 @@
 #include "core/start.h"
+#include "core/files.h"
 
 #include "core/bank.h"
 #include "core/menuticks.h"

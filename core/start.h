@@ -1,9 +1,7 @@
-// Start-up, the way out, and the two stored files.
+// Start-up and the way out.
 #pragma once
 
 #include "core/game.h"
-
-#include <string>
 
 namespace hustle {
 
@@ -15,17 +13,6 @@ void software_load(game&); // reads both files, opens the tune
 void main_load(game&);
 void main_focus(game&);
 void exitroutine(game&);
-
-void readfiles(game&);
-void savegame(game&);  // both files
-void savetable(game&); // hscore.dat alone
-
-// The text of the two files.
-std::string game_text(const machine&);
-std::string table_text(const machine&);
-// False, with nothing changed, where the text is damaged.
-bool read_game_text(machine&, std::string_view);
-bool read_table_text(machine&, std::string_view);
 
 // Gives the lines of main the colour of `ledcolour` and returns it; 0 outside 1 to 6.
 colour led_colour(int ledcolour);

@@ -1,7 +1,8 @@
-// The three text animations of the line: two that are typed out behind a turning bar and then
-// flash, and one that grows from the middle.
+// Two texts are typed out behind a turning bar and then flash, and one grows from the middle.
+#include "core/typedtexts.h"
+
 #include "core/bank.h"
-#include "core/holds.h"
+#include "core/ticks.h"
 #include "panel/text.h"
 
 #include <array>
@@ -58,11 +59,15 @@ void type_frame(game& g, const typed_text& text, int step) {
         set_interval(g.p, text.chain, 100);
 }
 
+void end_typing(game& g, const typed_text& text) {
+    stop_timer(g.p, text.chain);
+    set_interval(g.p, text.chain, 10);
+}
+
 void typed_tick(game& g, const typed_text& text) {
     count& step = g.m.textstep;
     if (step == text.figures + 1) {
-        stop_timer(g.p, text.chain);
-        set_interval(g.p, text.chain, 10);
+        end_typing(g, text);
         step = 1;
         return;
     }
@@ -93,6 +98,12 @@ void like_it_frame(game& g, int step) {
 }
 
 } // namespace
+
+void cut_typed_texts(game& g) {
+    end_typing(g, let_em_spin);
+    end_typing(g, dont_hold_any);
+    g.m.textstep = 0;
+}
 
 void dontholdany(game& g) { typed_tick(g, dont_hold_any); }
 void letemspin(game& g) { typed_tick(g, let_em_spin); }

@@ -55,7 +55,7 @@ int read_arguments(options& to, int count, char** arguments) {
     app.add_option("--watch", to.watch, "Plays a panel script, as session.txt is one, to be watched")
         ->type_name("SCRIPT")
         ->check(CLI::ExistingFile);
-    app.footer("HUSTLE_DATA=FOLDER  where game.dat and hscore.dat stand\n"
+    app.footer("HUSTLE_DATA=FOLDER  where the stored games stand\n"
                "HUSTLE_SEED=N       draws that repeat from run to run");
     try {
         app.parse(count, arguments);

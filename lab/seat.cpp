@@ -2,6 +2,7 @@
 // presses when his hand arrives. Nothing is allocated in it.
 #include "lab/seat.h"
 
+#include "core/files.h"
 #include "core/start.h"
 #include "panel/sheet.h"
 #include "screens/events.h"

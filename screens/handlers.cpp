@@ -14,7 +14,7 @@
 #include "panel/sheet.h"
 #include "screens/sidescreens.h"
 #include "subgames/subgames.h"
-#include "trail/bonus.h"
+#include "trail/stopper.h"
 #include "trail/trail.h"
 
 #include <array>

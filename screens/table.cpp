@@ -1,6 +1,6 @@
 // The table of the ten best scores.
 
-#include "core/start.h"
+#include "core/files.h"
 #include "core/upward.h"
 #include "panel/text.h"
 #include "screens/sidescreens.h"

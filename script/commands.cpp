@@ -84,7 +84,8 @@ void file(runner& r, const words& w) {
     before_boot(r, "file");
     const store which = w[0].text == name(store::game_dat) ? store::game_dat : store::hscore_dat;
     if (w[0].text != name(which))
-        throw script_error("file takes game.dat or hscore.dat, not " + written(w[0]));
+        throw script_error(std::string("file takes ") + std::string(name(store::game_dat)) + " or " +
+                           std::string(name(store::hscore_dat)) + ", not " + written(w[0]));
     const int first = r.line;
     std::string text;
     for (std::string_view line; next_line(r, line);) {

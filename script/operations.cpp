@@ -3,6 +3,7 @@
 #include "board/board.h"
 #include "board/reelawards.h"
 #include "core/bank.h"
+#include "core/files.h"
 #include "core/holds.h"
 #include "core/nudges.h"
 #include "core/play.h"
@@ -12,6 +13,7 @@
 #include "script/names.h"
 #include "subgames/subgames.h"
 #include "trail/bonus.h"
+#include "trail/stopper.h"
 #include "trail/trail.h"
 
 namespace hustle::script {

@@ -1,3 +1,4 @@
+#include "core/files.h"
 #include "panel/text.h"
 #include "tests/testgame.h"
 

@@ -1,4 +1,4 @@
-// The Bonus wheel, the stop button of main, the run-up to the board, the repeat chance, the roll.
+// The Bonus: its chance and its wheel.
 #pragma once
 
 #include "core/game.h"
@@ -10,10 +10,8 @@ namespace hustle {
 // The words of the wheel; award n is wheel_texts[n - 1].
 extern const std::array<std::string_view, 11> wheel_texts;
 
+// The Bonus comes, unless there is a win or the Number Runner runs; one in ten is the true
+// skill Bonus.
 void bonuschance(game&);
-
-void stopperpress(game&); // the action of `stopper`
-
-void roll_stop(game&); // the stop button during the roll
 
 } // namespace hustle

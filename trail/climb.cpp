@@ -1,6 +1,7 @@
 // The Trail Climber: pairs of lamps flash, one after the other, until one is missed.
 #include "core/bank.h"
 #include "trail/bonus.h"
+#include "trail/stopper.h"
 #include "trail/trail.h"
 
 namespace hustle {

@@ -2,7 +2,6 @@
 #include "core/play.h"
 #include "panel/prizes.h"
 #include "panel/text.h"
-#include "trail/bonus.h"
 #include "trail/trail.h"
 
 namespace hustle {

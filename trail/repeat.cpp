@@ -2,7 +2,6 @@
 #include "core/bands.h"
 #include "core/bank.h"
 #include "panel/prizes.h"
-#include "trail/bonus.h"
 
 namespace hustle {
 

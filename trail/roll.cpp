@@ -1,6 +1,6 @@
 // In a Spin: the three reels roll down the strip as one, and the stop button takes what they show.
 #include "core/reels.h"
-#include "trail/bonus.h"
+#include "trail/stopper.h"
 
 namespace hustle {
 

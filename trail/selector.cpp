@@ -1,6 +1,7 @@
 // The Selector: ten jumps of the trail to a new height; the stop button takes the height on show.
 #include "core/bank.h"
 #include "trail/bonus.h"
+#include "trail/stopper.h"
 #include "trail/trail.h"
 
 namespace hustle {

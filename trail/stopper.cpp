@@ -1,7 +1,6 @@
-// The stop button of main. It has no meaning of its own: it stops what is running.
+#include "trail/stopper.h"
+
 #include "trail/awards.h"
-#include "trail/bonus.h"
-#include "trail/trail.h"
 
 namespace hustle {
 

@@ -20,10 +20,4 @@ void trailholdchance(game&);
 // Lamp 9 has been reached: `win` becomes at least 1.00 and the run-up to the board begins.
 void fulltrail(game&);
 
-// What a press of the stop button does to each.
-void climb_stop(game&);
-void trailskill_stop(game&);
-void trailstopper_stop(game&);
-void selector_stop(game&);
-
 } // namespace hustle

@@ -1,5 +1,6 @@
 // Trail Skill and Trail Stopper: a single lamp runs or jumps, and the stop button takes it.
 #include "core/bank.h"
+#include "trail/stopper.h"
 #include "trail/trail.h"
 
 namespace hustle {

@@ -1,4 +1,5 @@
 // The start, the inputs and the clock.
+#include "core/files.h"
 #include "core/start.h"
 #include "desktop/session/clock.h"
 #include "screens/dispatch.h"

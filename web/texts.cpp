@@ -1,6 +1,6 @@
 // The sheet as JSON, and what the script's names tell.
 #include "art/lamplooks.h"
-#include "core/start.h"
+#include "core/files.h"
 #include "panel/sheet.h"
 #include "script/dump.h"
 #include "web/here.h"

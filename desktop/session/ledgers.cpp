@@ -1,7 +1,7 @@
 #include "desktop/session/ledgers.h"
 
+#include "core/files.h"
 #include "core/play.h"
-#include "core/start.h"
 #include "desktop/session/savebox.h"
 #include "desktop/session/session.h"
 
@@ -33,7 +33,7 @@ void begin_ledgers(session& s) {
     s.ledgers.text = game_text(s.g.m);
     s.ledgers.options = options_of(s.g.m);
     s.saving.folder = QFile::encodeName(s.world.data).toStdString();
-    s.saving.name = "game.dat";
+    s.saving.name = name(store::game_dat);
     s.saving.saved = [&s](const std::string& why) {
         QMetaObject::invokeMethod(
             &s.wake, [&s, why = QString::fromStdString(why)] { told(s, why); }, Qt::QueuedConnection);

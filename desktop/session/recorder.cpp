@@ -1,6 +1,6 @@
 #include "desktop/session/recorder.h"
 
-#include "core/start.h"
+#include "core/files.h"
 #include "panel/sheet.h"
 #include "script/dump.h"
 #include "script/lexer.h"

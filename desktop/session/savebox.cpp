@@ -1,6 +1,7 @@
 #include "desktop/session/savebox.h"
 
 #include "desktop/window/boxes.h"
+#include "panel/sheet.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,9 +41,9 @@ void note_unsaved(const QString& folder, const QString& why) {
                                 QMessageBox::Ok, box_parent());
     dress(*box, "Hoard Hustle");
     box->setInformativeText(
-        QString("game.dat could not be saved in %1. It is tried again after each play, and "
+        QString("%1 could not be saved in %2. It is tried again after each play, and "
                 "at the end another folder can be chosen.")
-            .arg(shown(folder)));
+            .arg(QString::fromStdString(std::string(name(store::game_dat))), shown(folder)));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);
     box->show();

@@ -1,6 +1,6 @@
 // A session in its windows, without a screen: what the player has is kept whatever ends the program.
+#include "core/files.h"
 #include "core/play.h"
-#include "core/start.h"
 #include "core/upward.h"
 #include "desktop/platform/stablefile.h"
 #include "desktop/session/leaving.h"
