@@ -61,7 +61,7 @@ TEST(Files, WhatIsWrittenIsReadAgain) {
     number units = 0;
     for (const auto& s : j["figures"]["sources"])
         units += s["units"].get<number>();
-    EXPECT_DOUBLE_EQ(static_cast<double>(units) * pounds_of_unit, j["figures"]["banked"].get<double>());
+    EXPECT_DOUBLE_EQ(static_cast<double>(units) / units_of_pound, j["figures"]["banked"].get<double>());
     EXPECT_LT(j["return"]["low"], j["return"]["mean"]);
     EXPECT_LT(j["return"]["mean"], j["return"]["high"]);
 }

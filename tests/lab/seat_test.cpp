@@ -81,7 +81,7 @@ TEST_P(Players, AllMoneyHasASourceAndTheLedgersAgree) {
     EXPECT_EQ(std::accumulate(c.band_paid.begin(), c.band_paid.end(), number{0}), c.banked);
     EXPECT_GE(c.staked, c.plays * stake_units);
     // The machine's ledger drifts by the last bits of its singles.
-    EXPECT_NEAR(double{s->g.m.moneyout} - 80, static_cast<double>(c.banked) * pounds_of_unit, 2);
+    EXPECT_NEAR(double{s->g.m.moneyout} - 80, static_cast<double>(c.banked) / units_of_pound, 2);
 }
 
 TEST_P(Players, NothingIsAllocatedInAPlay) {
