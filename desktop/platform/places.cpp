@@ -29,4 +29,10 @@ QString shipped_folder(const QString& name) {
     return beside + name;
 }
 
+QString shipped_module(const QString& name) {
+    const QString beside = QCoreApplication::applicationDirPath() + "/";
+    const QString installed = beside + "../lib/hoardhustle/" + name + ".so";
+    return QDir::cleanPath(QFileInfo::exists(installed) ? installed : beside + name + ".so");
+}
+
 } // namespace hustle::desktop

@@ -15,4 +15,8 @@ QString data_folder();
 // folder of an installed one. Where there is none, the place beside the program.
 QString shipped_folder(const QString& name);
 
+// The file of a module that is loaded at run time: beside the program, or in the library folder of an
+// installed one.
+QString shipped_module(const QString& name);
+
 } // namespace hustle::desktop

@@ -13,8 +13,6 @@
 #include <QSysInfo>
 #include <QVBoxLayout>
 
-#include <SDL_version.h>
-
 #ifdef Q_OS_WIN
 #include <QFileInfo>
 #include <QProcess>
@@ -26,18 +24,13 @@ namespace hustle::desktop {
 namespace {
 
 QString system_text(const QString& data_folder) {
-    SDL_version sdl{};
-    SDL_GetVersion(&sdl);
     const QString version =
         QString::fromUtf8(version_text.data(), static_cast<qsizetype>(version_text.size()));
     return QString("Hoard Hustle %1\nSystem: %2 (%3, kernel %4)\nToolkit: Qt %5, platform %6\n"
-                   "Sound: SDL %7.%8.%9, ")
+                   "Sound: ")
                .arg(version, QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture(),
                     QSysInfo::kernelVersion(), QString::fromLatin1(qVersion()),
-                    QGuiApplication::platformName())
-               .arg(sdl.major)
-               .arg(sdl.minor)
-               .arg(sdl.patch) +
+                    QGuiApplication::platformName()) +
            QString::fromStdString(sound_state()) + "\nStored files: " + QDir::toNativeSeparators(data_folder);
 }
 

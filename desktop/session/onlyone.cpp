@@ -4,7 +4,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QLocalSocket>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -29,23 +28,10 @@ bool claim_folder(only_one& o, const QString& folder) {
 }
 
 void listen_for_calls(only_one& o, const QString& folder, const std::function<void()>& called) {
-    QLocalServer::removeServer(ear_name(folder)); // of one that was killed: the lock is ours
-    o.ear.setSocketOptions(QLocalServer::UserAccessOption);
-    QObject::connect(&o.ear, &QLocalServer::newConnection, &o.ear, [&o, called] {
-        while (QLocalSocket* const caller = o.ear.nextPendingConnection()) {
-            caller->write("here\n");
-            QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-            called();
-        }
-    });
-    o.ear.listen(ear_name(folder));
+    listen_at(o.ear, ear_name(folder), called); // what stands there is dead: the lock is ours
 }
 
-bool call_to_front(const QString& folder) {
-    QLocalSocket voice;
-    voice.connectToServer(ear_name(folder));
-    return voice.waitForConnected(answer_ms) && voice.waitForReadyRead(answer_ms);
-}
+bool call_to_front(const QString& folder) { return call_at(ear_name(folder), answer_ms); }
 
 second ask_second(bool first_is_deaf) {
     QMessageBox box(QMessageBox::Question, {}, "Hoard Hustle is open already.");

@@ -2,7 +2,8 @@
 // ask the first to come to the front.
 #pragma once
 
-#include <QLocalServer>
+#include "desktop/platform/ear.h"
+
 #include <QLockFile>
 #include <QString>
 
@@ -13,7 +14,7 @@ namespace hustle::desktop {
 
 struct only_one {
     std::unique_ptr<QLockFile> lock;
-    QLocalServer ear;
+    open_ear ear;
 };
 
 // True where the folder's files are ours: nobody else plays on them, or no lock can stand there.

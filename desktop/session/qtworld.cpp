@@ -227,7 +227,8 @@ void tell_if_unwritable(qtworld& w) {
 void open_ears(qtworld& w) {
     if (w.heard)
         return;
-    w.heard = open_sound(w.sounds.toStdString());
+    w.heard =
+        open_sound(w.sounds.toStdString(), QFile::encodeName(shipped_module("hustlemixer")).toStdString());
     if (w.heard && w.tune_waits)
         tune_command(tune::open);
 }

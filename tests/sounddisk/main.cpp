@@ -1,6 +1,9 @@
 // Plays a wave and the tune into a file instead of a device, and listens to what was written.
 // Usage: sounddisk FOLDER-OF-SOUNDS RAW-FILE-TO-WRITE
+#include "desktop/platform/places.h"
 #include "desktop/platform/sound.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <chrono>
@@ -66,6 +69,7 @@ void check(bool good, const char* what) {
 } // namespace
 
 int main(int count, char** words) {
+    const QCoreApplication application(count, words);
     if (count != 3)
         return 2;
     const std::string folder = words[1];
@@ -75,7 +79,7 @@ int main(int count, char** words) {
 
     std::error_code not_there;
     fs::remove(raw, not_there);
-    open_sound(folder);
+    open_sound(folder, shipped_module("hustlemixer").toStdString());
     std::cout << sound_state() << '\n';
     tune_command(hustle::tune::open);
     play_wave(hustle::sound::win);
