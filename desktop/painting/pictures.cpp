@@ -64,6 +64,11 @@ const QPixmap& picture(picture_store& store, art a, QSize size) {
     return *store.sharp.insert(key(a, size), store.latest.value(static_cast<int>(a)));
 }
 
+void give_picture(picture_store& store, art a, const QPixmap& pixmap) {
+    store.latest.insert(static_cast<int>(a), pixmap);
+    store.sharp.insert(key(a, pixmap.size()), pixmap);
+}
+
 void begin_settling(picture_store& store) {
     store.settling = true;
     store.sharp.clear();

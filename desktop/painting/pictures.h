@@ -20,11 +20,16 @@ struct picture_store {
     bool settling = false;
 };
 
+// The splash as it ships, drawn; on a screen of another scale it is drawn anew.
+inline constexpr QSize splash_size(480, 320);
+
 // Draws a picture that is kept elsewhere; the size in device pixels.
 QPixmap draw_art(art, QSizeF);
 
 // A picture at a size in device pixels. While the store is settling it may have another size.
 const QPixmap& picture(picture_store&, art, QSize device_pixels);
+// Takes in a picture that is drawn already.
+void give_picture(picture_store&, art, const QPixmap&);
 // Forgets what was drawn for another size.
 void begin_settling(picture_store&);
 

@@ -3,6 +3,8 @@
 #include "desktop/session/motion.h"
 
 #include "core/start.h"
+#include "desktop/platform/places.h"
+#include "desktop/platform/readypicture.h"
 #include "desktop/platform/sound.h"
 #include "desktop/session/leaving.h"
 #include "desktop/window/geometry.h"
@@ -69,6 +71,8 @@ screenview* open_window(session& s, screen what) {
     auto* view = new screenview(s, what);
     if (what == screen::software) {
         view->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+        view->take_ready(art::startscreen,
+                         read_ready(shipped_folder("pictures") + "/splash.rgbx", splash_size));
     } else {
         view->setParent(s.window, Qt::Window);
         view->setMinimumSize(view->panel_size() / 2);

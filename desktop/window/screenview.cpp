@@ -156,6 +156,11 @@ void screenview::resizeEvent(QResizeEvent*) {
         drawn[index++] = dirty_rect(r.id);
 }
 
+void screenview::take_ready(art a, const QImage& image) {
+    if (!image.isNull())
+        give_picture(pictures, a, QPixmap::fromImage(image));
+}
+
 // True where the picture had to be drawn.
 bool screenview::draw_now(art a, element on) {
     if (a == art::none)

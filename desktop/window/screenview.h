@@ -20,6 +20,8 @@ class screenview : public QWidget {
 public:
     screenview(session&, hustle::screen, QWidget* parent = nullptr);
 
+    // A picture that need not be drawn any more, as it ships with the program.
+    void take_ready(art, const QImage&);
     // Repaints what has changed since the last time.
     void refresh();
     // Repaints a part of the screen, in twips.
