@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""bundle.py PAGE HELP ASSETS ICON OUT: makes the two forms of the page.
+"""bundle.py PAGE HELP REPORT ASSETS OUT: makes the two forms of the page.
 
 OUT/hoardhustle.html has everything in it and fetches nothing. OUT/app is a folder for a web server:
 the same page with its parts beside it, a manifest and a service worker, so that it installs and
-plays offline. PAGE is the folder of modules and styles, HELP that of the help pages, ASSETS that of
-hustle.wasm, waves.pack and tune.opus, ICON the program's icon as SVG.
+plays offline. PAGE is the folder of modules and styles, HELP that of the help pages, REPORT that of
+the lab's charts, ASSETS that of the modules, the sounds and the icons.
 """
 import base64
 import gzip
@@ -15,7 +15,7 @@ import re
 import shutil
 import sys
 
-PARTS = ["hustle.wasm", "waves.pack", "tune.opus"]
+PARTS = ["hustle.wasm", "lab.wasm", "waves.pack", "tune.opus"]
 
 
 def joined(folder, name, done):
@@ -35,8 +35,8 @@ def joined(folder, name, done):
     return f"{before}const module_{name} = (() => {{\n{text}\nreturn {{ {', '.join(exports)} }};\n}})();\n"
 
 
-def script_of(folder):
-    return '"use strict";\n' + joined(folder, "main", [])
+def script_of(folder, charts):
+    return '"use strict";\n' + charts + joined(folder, "main", [])
 
 
 def guide(path):
@@ -69,7 +69,7 @@ def write_single(page, common, style, script, assets, out):
               "img-src blob: data:; media-src blob:; worker-src blob:; base-uri 'none'; form-action 'none'")
     inside = "\n".join(packed(name, (assets / name).read_bytes()) for name in PARTS)
     text = filled(page, POLICY=policy, HEAD=common["icon"], STYLE=style, SCRIPT=script, ASSETS=inside,
-                  HELP=common["help"], HOME=common["home"])
+                  **common["inside"])
     (out / "hoardhustle.html").write_text(text)
 
 
@@ -84,8 +84,7 @@ def write_app(page, common, style, script, assets, icons, out):
               "manifest-src 'self'; base-uri 'none'; form-action 'none'")
     head = '<link rel="manifest" href="manifest.webmanifest">\n<link rel="icon" href="icon.svg">\n' \
            '<link rel="apple-touch-icon" href="icon-192.png">'
-    text = filled(page, POLICY=policy, HEAD=head, STYLE=style, SCRIPT=script, ASSETS="",
-                  HELP=common["help"], HOME=common["home"])
+    text = filled(page, POLICY=policy, HEAD=head, STYLE=style, SCRIPT=script, ASSETS="", **common["inside"])
     (app / "index.html").write_text(text)
     for name in PARTS:
         shutil.copyfile(assets / name, app / name)
@@ -109,15 +108,16 @@ def write_app(page, common, style, script, assets, icons, out):
 
 
 if __name__ == "__main__":
-    page_folder, help_folder, assets_folder, icon_folder, out_folder = map(pathlib.Path, sys.argv[1:6])
+    page_folder, help_folder, report_folder, assets_folder, out_folder = map(pathlib.Path, sys.argv[1:6])
     template = (page_folder / "index.html").read_text()
-    style_text = (page_folder / "style.css").read_text()
-    script_text = script_of(page_folder)
-    svg = (icon_folder / "icon.svg").read_bytes()
+    style_text = (report_folder / "lab.css").read_text() + (page_folder / "style.css").read_text()
+    script_text = script_of(page_folder, (report_folder / "lab.js").read_text())
+    svg = (assets_folder / "icon.svg").read_bytes()
     shared = {
-        "help": guide(help_folder / "index.html"), "home": guide(help_folder / "home.html"),
+        "inside": {"HELP": guide(help_folder / "index.html"), "HOME": guide(help_folder / "home.html"),
+                   "LABWORKER": (page_folder / "labworker.js").read_text()},
         "icon": f'<link rel="icon" href="data:image/svg+xml;base64,{base64.b64encode(svg).decode()}">',
     }
     write_single(template, shared, style_text, script_text, assets_folder, out_folder)
     write_app(template, shared, style_text, script_text, assets_folder,
-              [icon_folder / name for name in ("icon.svg", "icon-192.png", "icon-512.png")], out_folder)
+              [assets_folder / name for name in ("icon.svg", "icon-192.png", "icon-512.png")], out_folder)

@@ -1,6 +1,7 @@
 // The charts of the lab: hustleLab.show(root, results) fills an element with what a list of results
-// tells (each as hustlelab writes it, the machines' own records not needed). Plain SVG, drawn for the
-// width that there is, with a table under each chart. The report of hustlelab and the page share it.
+// tells (each as hustlelab writes it, the machines' own records not needed; `running` true in one that
+// is still played). Called again it shows the new figures in the old ones' place. Plain SVG, drawn for
+// the width that there is, with a table under each chart. The report of hustlelab and the page share it.
 const hustleLab = (() => {
     "use strict";
 
@@ -9,8 +10,12 @@ const hustleLab = (() => {
 
     // Elements.
     const fill = (node, attributes, children) => {
-        for (const [name, value] of Object.entries(attributes))
-            node.setAttribute(name, value);
+        for (const [name, value] of Object.entries(attributes)) {
+            if (name === "style")
+                node.style.cssText = value; // a page may forbid the attribute
+            else
+                node.setAttribute(name, value);
+        }
         node.append(...children.filter((c) => c !== null && c !== undefined));
         return node;
     };
@@ -116,7 +121,7 @@ const hustleLab = (() => {
             ["Player", "Plays", "Machines", "Return to player", "Machine's own", "Plays that pay", "Volatility (stakes)",
                 "Longest dry run (plays)", "Time a play", "Machine time"], rows);
         made.open = true;
-        root.append(html("section", {}, ...results.filter((r) => !r.complete).map((r) =>
+        root.append(html("section", {}, ...results.filter((r) => !r.complete && !r.running).map((r) =>
             html("p", {class: "warning"}, `The run of ${nameOf(r)} was broken off: these are the plays until then.`)), made));
     };
 
@@ -340,7 +345,6 @@ const hustleLab = (() => {
     // One small note that follows the pointer.
     const hover = (root) => {
         const note = html("div", {class: "note", hidden: "", "aria-hidden": "true"});
-        root.append(note);
         root.addEventListener("pointermove", (event) => {
             const tip = event.target.getAttribute && event.target.getAttribute("data-tip");
             note.hidden = !tip;
@@ -352,31 +356,43 @@ const hustleLab = (() => {
             note.style.top = event.clientY + 18 + "px";
         });
         root.addEventListener("pointerleave", () => note.hidden = true);
+        return note;
     };
 
-    const show = (root, results) => {
-        charts.length = 0;
-        root.replaceChildren(html("h1", {}, "What the machine pays"));
-        summary(root, results);
-        for (const part of [returnOverPlays, sourcesBar, winsHistogram, windows, wayHome, bands, features, terms])
-            part(root, results);
-        hover(root);
-        let drawn = 0;
-        const draw = () => {
-            if (root.clientWidth === drawn)
-                return;
-            drawn = root.clientWidth;
-            for (const chart of charts)
+    // What stays with an element from its first show on.
+    const shown = new WeakMap();
+    const hold = (root) => {
+        const held = {note: hover(root), drawn: 0, charts: []};
+        held.draw = () => {
+            held.drawn = root.clientWidth;
+            for (const chart of held.charts)
                 chart();
         };
-        draw();
-        new ResizeObserver(draw).observe(root);
+        new ResizeObserver(() => root.clientWidth !== held.drawn && held.draw()).observe(root);
         const opened = [];
         addEventListener("beforeprint", () => root.querySelectorAll("details:not([open])").forEach((d) => {
             d.open = true;
             opened.push(d);
         }));
         addEventListener("afterprint", () => opened.splice(0).forEach((d) => d.open = false));
+        shown.set(root, held);
+        return held;
+    };
+
+    const show = (root, results) => {
+        const held = shown.get(root) ?? hold(root), high = root.offsetHeight;
+        const open = [...root.querySelectorAll("details")].map((d) => d.open);
+        root.style.minHeight = high + "px"; // what stands below keeps its place meanwhile
+        charts.length = 0;
+        root.replaceChildren(html("h1", {}, "What the machine pays"));
+        summary(root, results);
+        for (const part of [returnOverPlays, sourcesBar, winsHistogram, windows, wayHome, bands, features, terms])
+            part(root, results);
+        held.charts = [...charts];
+        root.append(held.note);
+        root.querySelectorAll("details").forEach((d, n) => d.open = open[n] ?? d.open);
+        held.draw();
+        root.style.minHeight = "";
     };
 
     return {show};

@@ -1,7 +1,7 @@
 // `hustle` in the console: the machine by its script names. What these calls do is what the commands
 // of a panel script do.
 
-export function makeConsole(machine, session, refreshAll) {
+export function makeConsole(machine, session, refreshAll, pays) {
   const { x, sheet } = machine;
   const element = (name) => {
     const found = sheet.byName.get(name);
@@ -55,6 +55,7 @@ export function makeConsole(machine, session, refreshAll) {
     },
     now: () => x.hh_now(),
     session: () => machine.text(x.hh_record()),
+    pays: () => pays.text(),
     names: () => [...sheet.byName.keys()],
   };
 }

@@ -9,6 +9,7 @@ import { machineKey } from "./keys.js";
 import { startModule } from "./machine.js";
 import { makeMenus } from "./menus.js";
 import { makeMotion } from "./motion.js";
+import { makePays } from "./pays.js";
 import { makeAhead } from "./pictures.js";
 import { makeSession } from "./session.js";
 import { makeSound } from "./sound.js";
@@ -176,12 +177,33 @@ async function start() {
   });
   listenForFiles((list) => replaceFiles(files, list));
 
+  // --- what it pays: another room of the page, while the machine stands still ---
+
+  const paysRoom = document.querySelector("#pays");
+  const pays = makePays(paysRoom, () => asset("lab.wasm"));
+  const tab = menus.addTab("What it pays", "page.pays", () => {
+    paysRoom.hidden = !paysRoom.hidden;
+    const open = !paysRoom.hidden;
+    document.body.classList.toggle("atlab", open);
+    tab.setAttribute("aria-pressed", String(open));
+    tab.firstChild.textContent = open ? "Back to the machine" : "What it pays";
+    standOrGoOn();
+    if (open) pays.open();
+  });
+  const unseen = () => document.hidden || !paysRoom.hidden;
+  function standOrGoOn() {
+    if (still) return;
+    session.hide(unseen());
+    sound.hide(unseen());
+    if (unseen()) saveLedgers();
+  }
+
   // --- the player's hands ---
 
   window.addEventListener("pointerdown", () => sound.wake(), true);
   window.addEventListener("keydown", (event) => {
     sound.wake();
-    if (document.querySelector("dialog[open]")) return;
+    if (document.querySelector("dialog[open]") || !paysRoom.hidden) return;
     const screen = cabinet.keyScreen();
     const onButton = document.activeElement?.closest("button");
     const writing = document.activeElement?.tagName === "INPUT";
@@ -209,12 +231,7 @@ async function start() {
     else leave();
   }
   window.addEventListener("pagehide", onHide);
-  document.addEventListener("visibilitychange", () => {
-    if (still) return;
-    session.hide(document.hidden);
-    sound.hide(document.hidden);
-    if (document.hidden) saveLedgers();
-  });
+  document.addEventListener("visibilitychange", standOrGoOn);
   window.addEventListener("beforeunload", (event) => {
     if (!still && !x.hh_over() && x.hh_is_loaded(sheet.screenId.feature)) event.preventDefault();
   });
@@ -284,7 +301,7 @@ async function start() {
   if (booted instanceof Promise) await booted;
   session.start();
   hearIt();
-  window.hustle = makeConsole(machine, session, refresh);
+  window.hustle = makeConsole(machine, session, refresh, pays);
   performance.mark("machine");
   document.documentElement.dataset.ready = "true";
   if (!still) {

@@ -147,5 +147,18 @@ export function makeMenus(machine, bar, { press, own }) {
   });
 
   for (const id of entries.keys()) refresh(id);
-  return { refresh };
+  return {
+    refresh,
+    // A button at the bar's end that opens and shuts another room of the page.
+    addTab(title, name, act) {
+      const tab = make("button", "menuhead tab");
+      tab.append(make("span", "", title));
+      tab.type = "button";
+      tab.dataset.element = name;
+      tab.setAttribute("aria-pressed", "false");
+      tab.addEventListener("click", act);
+      bar.append(tab);
+      return tab;
+    },
+  };
 }
