@@ -88,6 +88,46 @@ def files():
         assert abs(float(found.split()[-1]) - game) < 0.6
 
 
+def tabs():
+    """Two tabs of the one file do not overwrite each other, by the browser's locks and without them."""
+    for without in ("", "Object.defineProperty(navigator, 'locks', {value: undefined});"):
+        with Browser() as b:
+            def tab(answer, without=without, b=b):
+                if b.value("location.protocol") == "file:":
+                    b.driver.switch_to.new_window("tab")
+                b.command("Page.addScriptToEvaluateOnNewDocument", source=without)
+                b.open()
+                b.answer(answer)
+                if answer == "asitis":
+                    b.ready()
+                b.until("hustle.get('main.loaded')")
+                return b.driver.current_window_handle
+
+            def plays():
+                play_once(b)
+                return b.get("streakbank")
+
+            def stands(money):
+                b.until(f"Number(({GAME} ?? '').split('\\r\\n')[5]) === {money}")
+
+            first = tab("asitis")
+            one = plays()
+            stands(one)
+            tab("without")
+            plays()
+            stands(one)
+            b.driver.get("about:blank")
+            second = tab("bring")
+            assert b.get("streakbank") == one, "the second tab has what the first one saved"
+            stands(plays())
+            kept = b.value(GAME)
+            b.driver.switch_to.window(first)
+            b.until("document.querySelector('dialog[open]')?.textContent.includes('another tab') === true")
+            b.driver.get("about:blank")
+            b.driver.switch_to.window(second)
+            assert b.value(GAME) == kept, "the first tab writes no more"
+
+
 def offline():
     """The folder on a web server: once seen it plays with the server gone."""
     serving = serve.server(str(APP), [0])
@@ -108,4 +148,4 @@ def offline():
 
 
 if __name__ == "__main__":
-    main({f.__name__: f for f in (saves, full, files, offline)})
+    main({f.__name__: f for f in (saves, full, files, tabs, offline)})

@@ -13,8 +13,9 @@ import { makePays } from "./pays.js";
 import { makeAhead } from "./pictures.js";
 import { makeSession } from "./session.js";
 import { makeSound } from "./sound.js";
-import { download, fileNames, makeStore, takeTurn } from "./store.js";
+import { download, fileNames, makeStore } from "./store.js";
 import { systemText } from "./system.js";
+import { takeTurn } from "./turns.js";
 
 const address = new URLSearchParams(window.location.search);
 const still = address.has("still");
@@ -259,8 +260,8 @@ async function start() {
       choices.reduced = await askFlashing();
       store.choose(choices);
     }
-    const turn = await takeTurn(() => {
-      saveLedgers();
+    const turn = await takeTurn((asked) => {
+      if (asked) saveLedgers();
       store.stopSaving();
       session.end();
       tell("Hoard Hustle", "The machine has been taken to another tab. This one stands still.");

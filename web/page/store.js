@@ -64,42 +64,6 @@ export function makeStore(enabled) {
   };
 }
 
-// One page at a time saves: the first to come holds a lock that goes with its tab. Where a browser
-// has no such locks every page saves.
-export async function takeTurn(onTaken) {
-  if (!navigator.locks) return { mine: true, take: async () => {} };
-  const calls = "BroadcastChannel" in window ? new BroadcastChannel("hoardhustle") : null;
-  let letGo = null;
-  const holdIt = (options, got) => navigator.locks.request("hoardhustle", options, (lock) => {
-    got(lock !== null);
-    if (lock === null) return undefined;
-    return new Promise((release) => { letGo = release; });
-  });
-  if (calls) calls.onmessage = (event) => {
-    if (event.data !== "hand over" || !letGo) return;
-    onTaken(); // saves what there is, and no more after it
-    letGo();
-    letGo = null;
-  };
-  const mine = await new Promise((got) => {
-    holdIt({ ifAvailable: true }, got).catch(() => got(true));
-  });
-  return {
-    mine,
-    // Asks the tab that has the turn for it, and waits until it has saved.
-    take() {
-      if (calls) calls.postMessage("hand over");
-      return new Promise((got) => {
-        const late = setTimeout(() => holdIt({ steal: true }, got).catch(() => {}), 1500);
-        holdIt({}, (won) => {
-          clearTimeout(late);
-          got(won);
-        }).catch(() => {});
-      });
-    },
-  };
-}
-
 export function download(name, text) {
   const link = document.createElement("a");
   link.href = URL.createObjectURL(new Blob([text], { type: "text/plain;charset=utf-8" }));
