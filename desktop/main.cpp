@@ -11,6 +11,10 @@
 #include <cstdlib>
 #include <string>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
 
 constexpr const char* no_display =
@@ -37,6 +41,14 @@ void tell_message(QtMsgType type, const QMessageLogContext&, const QString& text
     }
     if (type == QtCriticalMsg)
         std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+// Pictures come and go. The allocator would learn from the first that goes to keep the next ones in its
+// heap, where they are not given back to the system.
+void keep_large_pieces_apart() {
+#ifdef __GLIBC__
+    ::mallopt(M_MMAP_THRESHOLD, 64 * 1024);
+#endif
 }
 
 struct options {
@@ -113,6 +125,7 @@ int main(int argc, char** argv) {
         std::fputs(no_display, stderr);
         return 1;
     }
+    keep_large_pieces_apart();
     qInstallMessageHandler(tell_message);
     QApplication application(argc, argv);
     QApplication::setApplicationName("hoardhustle");

@@ -17,7 +17,6 @@ constexpr coming_art main_arts[] = {
     {art::holdpicdark, art::cancelpiclight, hold1},
     {art::startpicdark, art::startpiclight, start},
     {art::nudgenowpicdark, art::nudgenowpiclight, nudgenow},
-    {art::nudge0, art::nudge12345, picture1},
     {art::trailheldpic, art::trailheldpic, trailheld},
     {art::title, art::title2, toplogo},
 };

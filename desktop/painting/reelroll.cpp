@@ -84,9 +84,11 @@ void draw_swollen(QPainter& painter, const QPixmap& strip, double at, double swe
     draw_stretch(painter, strip, at, 1, middle.adjusted(-wider, -higher, wider, higher));
 }
 
-void prepare_strip(strip_store& store, QSize reel, bool dollars) {
+} // namespace
+
+bool prepare_strip(strip_store& store, QSize reel, bool dollars) {
     if (store.reel == reel && store.dollars == dollars && !store.sharp.isNull())
-        return;
+        return false;
     store.reel = reel;
     store.dollars = dollars;
     store.paper = draw_art(art::reelpaper, reel);
@@ -99,9 +101,8 @@ void prepare_strip(strip_store& store, QSize reel, bool dollars) {
             .scaled(reel.width(), stops * blurred_rows, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     store.blurred = QPixmap::fromImage(blurred_down(low, blur_rows));
     store.smear = QPixmap::fromImage(blurred_down(low, low.height()).copy(0, 0, low.width(), stops));
+    return true;
 }
-
-} // namespace
 
 void draw_reel(QPainter& painter, strip_store& store, const reel_motion& reel, bool dollars, double swell,
                QRect box) {

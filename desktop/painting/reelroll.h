@@ -18,6 +18,9 @@ struct strip_store {
     QPixmap smear;   // one row: the whole strip in one look
 };
 
+// Draws all of it for a reel of this size; false where it stands already.
+bool prepare_strip(strip_store&, QSize reel, bool dollars);
+
 // `swell` is the size of the symbol on the win line; 1 at rest.
 void draw_reel(QPainter&, strip_store&, const reel_motion&, bool dollars, double swell, QRect box);
 

@@ -1,5 +1,6 @@
 #include "desktop/session/session.h"
 
+#include "desktop/session/ahead.h"
 #include "desktop/session/motion.h"
 
 #include "core/start.h"
@@ -23,7 +24,6 @@ namespace hustle::desktop {
 namespace {
 
 constexpr int flush_ms = 1000; // of the record
-constexpr int ahead_ms = 8;    // between two pictures that are drawn ahead
 
 void arm(session& s) {
     std::int64_t due = 0;
@@ -79,11 +79,6 @@ screenview* open_window(session& s, screen what) {
     }
     place_side_window(*view, s.window);
     return view;
-}
-
-void open_main(session& s) {
-    s.window = new mainwindow(s);
-    place_main_window(*s.window, s.view);
 }
 
 bool is_main_pair(screen what) { return what == screen::main || what == screen::feature; }
@@ -155,22 +150,12 @@ void after_first_frame(session& s) {
     tell_if_unwritable(s.world);
 }
 
-void draw_one(session& s) {
-    if (s.window == nullptr) { // while the splash stands: main, so that it comes at once
-        open_main(s);
-        return;
-    }
-    if (s.window->main_view().draw_one_ahead() || !s.window->isVisible())
-        return;
-    s.window->main_view().speak();
-    screenview& board = s.window->board_view();
-    if (board.draw_one_ahead())
-        return;
-    board.speak();
-    s.ahead.stop();
-}
-
 } // namespace
+
+void open_main(session& s) {
+    s.window = new mainwindow(s);
+    place_main_window(*s.window, s.view);
+}
 
 void open_session(session& s) {
     s.world.s = &s;
@@ -180,8 +165,7 @@ void open_session(session& s) {
     s.wake.setSingleShot(true);
     s.wake.setTimerType(Qt::PreciseTimer);
     QObject::connect(&s.wake, &QTimer::timeout, &s.wake, [&s] { deliver_due(s); });
-    s.ahead.setInterval(ahead_ms);
-    QObject::connect(&s.ahead, &QTimer::timeout, &s.ahead, [&s] { draw_one(s); });
+    start_drawing_ahead(s);
     start_motion(s);
 }
 
@@ -272,16 +256,12 @@ void refresh(session& s) {
         s.window->refresh();
         if (!s.window->isVisible())
             show_main_window(*s.window, s.view);
+        choose_pictures(s);
     }
     if (!s.g.p.over) {
         move_on(s);
         raise_front(s);
     }
-}
-
-void draw_ahead(session& s) {
-    if (s.started)
-        s.ahead.start();
 }
 
 hold_machine::hold_machine(session& held) : s(held), since(held.real.elapsed()) {

@@ -4,6 +4,7 @@
 // The machine's clock follows the real one. It stands while a message box is open.
 #pragma once
 
+#include "desktop/session/ahead.h"
 #include "desktop/session/clock.h"
 #include "desktop/session/ledgers.h"
 #include "desktop/session/nameform.h"
@@ -39,6 +40,7 @@ struct session {
     bool leaving = false; // ended from outside: nothing is asked any more
     QTimer wake;          // the next tick
     QTimer ahead;         // draws pictures that will be needed, one at a time
+    kept_pictures kept;   // whose pictures are held
     stage show;           // what moves beyond the panel
     QTimer picture;       // the next picture of it
 
@@ -76,8 +78,8 @@ void activated(session&, screen);
 void refresh(session&);
 // Brings the sound to the volume that the settings and the machine's own switch ask for.
 void set_loudness(session&);
-// Draws coming pictures again, after a change of size.
-void draw_ahead(session&);
+// Makes the window of main, before it is shown.
+void open_main(session&);
 
 // While one of these lives no tick is delivered and no input taken.
 struct hold_machine {

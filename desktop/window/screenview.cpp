@@ -167,9 +167,20 @@ bool screenview::draw_now(art a, element on) {
         return false;
     if (played.g.p.dollars)
         a = dollar_version(a);
+    if (on >= element::reel1 && on <= element::reel3)
+        return prepare_strip(strips, device_rect(on).size(), played.g.p.dollars);
     const auto before = pictures.sharp.size();
     picture(pictures, a, device_rect(on).size());
     return pictures.sharp.size() != before;
+}
+
+void screenview::let_go() {
+    pictures = {};
+    dots = {};
+    lamps = {};
+    strips = {};
+    next_row = next_group = 0;
+    next_in_group = 0;
 }
 
 bool screenview::draw_one_ahead() {

@@ -30,6 +30,8 @@ public:
     void speak();
     // Draws one picture that is likely to be needed; false when all are there.
     bool draw_one_ahead();
+    // Lets go of all that has been drawn; it is drawn again when it is wanted.
+    void let_go();
     hustle::screen shown_screen() const { return what; }
     bool painted() const { return has_painted; }
     // The size of the screen in panel pixels.
