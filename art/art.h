@@ -13,6 +13,8 @@ struct art_size {
 };
 
 art_size svg_size(art); // {0, 0} for art::none
-std::string svg(art);   // empty for art::none
+// With `dollars` a picture that bears a pound sign bears a dollar sign; the reels have pictures of
+// their own for that (`dollar_version`). Empty for art::none.
+std::string svg(art, bool dollars = false);
 
 } // namespace hustle

@@ -139,11 +139,12 @@ art_size svg_size(art name) {
     return {shown.width, shown.height};
 }
 
-std::string svg(art name) {
+std::string svg(art name, bool dollars) {
     const picture& wanted = pictures[static_cast<std::size_t>(name)];
     if (wanted.draw == nullptr)
         return {};
     pen p{wanted.width, wanted.height};
+    p.dollars = dollars;
     wanted.draw(p, wanted.which);
     return finish(p);
 }

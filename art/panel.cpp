@@ -207,7 +207,7 @@ void draw_transfer(pen& p, int) {
         {.fill = down(p, {{0, "#14080c"}, {1, "#3a1a22"}}), .stroke = "#000000", .width = 0.8});
     box(p, 8, 5, 3, 30, 1.5, {.fill = "#000000"});
     disc(p, 9.5, 12, 6, {.fill = gold(p), .stroke = "#4a2402", .width = 0.9});
-    write(p, "£", 9.5, 8.6, 7, {.fill = "#5a2c02", .shape = {.weight = 0.2}});
+    write(p, p.dollars ? "$" : "£", 9.5, 8.6, 7, {.fill = "#5a2c02", .shape = {.weight = 0.2}});
     path(p, polygon({{9.5, 34}, {4.5, 26}, {14.5, 26}}),
          {.fill = "#ff5a3c", .stroke = "#4a0a04", .width = 0.8});
     path(p, polygon({{9.5, 29}, {6.2, 22.5}, {12.8, 22.5}}),

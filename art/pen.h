@@ -17,6 +17,7 @@ struct pen {
     std::string body = {};
     std::string definitions = {};
     std::vector<std::string> gradients = {}; // texts already defined; gradient n has the id gn
+    bool dollars = false;                    // money bears a dollar sign
 };
 
 std::string finish(const pen&); // the whole SVG text

@@ -162,7 +162,7 @@ void coin(pen& p, money sign) {
          {.fill = ball(p, {{0, "#2fd06a"}, {0.55, "#0a8a3c"}, {1, "#02401a"}}, 0.5, 0.4, 0.6),
           .stroke = "#6a3a04",
           .width = 2.2});
-    const auto mark = sign == money::pounds ? "£" : "$";
+    const auto mark = sign == money::pounds && !p.dollars ? "£" : "$";
     write(p, mark, 0, -27, 54,
           {.fill = gold(p, -27, 27),
            .edge = "#02240e",

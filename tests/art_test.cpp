@@ -1,6 +1,7 @@
 // The art bank, picture by picture: whole, self-contained, and made of nothing but what every SVG
 // renderer that the window may use draws alike.
 #include "art/art.h"
+#include "panel/ring.h"
 
 #include <gtest/gtest.h>
 
@@ -177,6 +178,18 @@ TEST(art_bank, lint_sees_what_some_renderers_leave_out) {
           "<rect fill=\"url(#g0)\"/>", "<rect style=\"fill:#ff00aa\"/>", "<rect x=\"nan\"/>",
           "<path d=\"M0,nan\"/>", "<rect x=\"1,5\"/>", "<g>"})
         EXPECT_TRUE(faulty(body)) << body;
+}
+
+// Their signs are paths: a picture that bears one must look different, and no other may.
+TEST(art_bank, shows_dollars_where_a_picture_bears_a_pound) {
+    const auto differs = [](art a) { return svg(a, true) != svg(a, false); };
+    EXPECT_TRUE(differs(art::transferpic));
+    for (int n = 1; n <= 24; ++n) {
+        const square what = ring[static_cast<std::size_t>(n - 1)];
+        const bool money = what == square::cash1 || what == square::cash2;
+        EXPECT_EQ(differs(nth(art::boxdark1, n)), money) << n;
+        EXPECT_EQ(differs(nth(art::boxlight1, n)), money) << n;
+    }
 }
 
 TEST(art_bank, tells_all_pictures_apart) {

@@ -93,6 +93,7 @@ void draw_picture(canvas& c, const panel& p, const element_state& state, QRect b
     const art a = p.dollars ? dollar_version(state.picture) : state.picture;
     if (a == art::none)
         return;
+    c.pictures.dollars = p.dollars;
     const QPixmap& pixmap = picture(c.pictures, a, box.size());
     const int inset = pressed ? std::max(1, static_cast<int>(1.5 * c.pixel)) : 0;
     const QRect target = box.adjusted(inset, inset, -inset, -inset);

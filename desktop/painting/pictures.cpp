@@ -38,10 +38,10 @@ quint64 key(art a, QSize size) {
 
 } // namespace
 
-QPixmap draw_art(art a, QSizeF size) {
+QPixmap draw_art(art a, QSizeF size, bool dollars) {
     QPixmap pixmap(size.toSize());
     pixmap.fill(Qt::transparent);
-    const std::string text = svg(a);
+    const std::string text = svg(a, dollars);
     QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -59,7 +59,7 @@ const QPixmap& picture(picture_store& store, art a, QSize size) {
         if (old != store.latest.cend())
             return *old;
     }
-    store.latest.insert(static_cast<int>(a), draw_art(a, size));
+    store.latest.insert(static_cast<int>(a), draw_art(a, size, store.dollars));
     return *store.sharp.insert(key(a, size), store.latest.value(static_cast<int>(a)));
 }
 

@@ -18,13 +18,14 @@ struct picture_store {
     QHash<int, QPixmap> latest;    // by art, whatever its size
     // While a window is being dragged to another size, pictures of the old one are good enough.
     bool settling = false;
+    bool dollars = false; // set once, before the first picture: the machine changes it at a start only
 };
 
 // The splash as it ships, drawn; on a screen of another scale it is drawn anew.
 inline constexpr QSize splash_size(480, 320);
 
 // Draws a picture that is kept elsewhere; the size in device pixels.
-QPixmap draw_art(art, QSizeF);
+QPixmap draw_art(art, QSizeF, bool dollars = false);
 
 // A picture at a size in device pixels. While the store is settling it may have another size.
 const QPixmap& picture(picture_store&, art, QSize device_pixels);

@@ -169,6 +169,7 @@ bool screenview::draw_now(art a, element on) {
         a = dollar_version(a);
     if (on >= element::reel1 && on <= element::reel3)
         return prepare_strip(strips, device_rect(on).size(), played.g.p.dollars);
+    pictures.dollars = played.g.p.dollars;
     const auto before = pictures.sharp.size();
     picture(pictures, a, device_rect(on).size());
     return pictures.sharp.size() != before;
