@@ -19,7 +19,9 @@ export function makeSound(names, loadWaves, loadTune) {
 
   const level = () => (silent ? 0 : volume);
 
-  async function decode() {
+  let decoding = null;
+  const decode = () => decoding ??= decodeAll().then(() => performance.mark("waves"));
+  async function decodeAll() {
     const pack = await loadWaves();
     const Offline = window.OfflineAudioContext ?? window.webkitOfflineAudioContext;
     if (!Offline) return;
@@ -79,6 +81,7 @@ export function makeSound(names, loadWaves, loadTune) {
       if (early && performance.now() - early.at < freshFor) playNow(early.name);
       early = null;
       openTune().catch(() => {});
+      decode().catch(() => {});
     },
     play(sound) {
       const name = names[sound];
