@@ -153,7 +153,7 @@ std::string with_light_for_dark(std::string name) { return name.replace(name.fin
 
 } // namespace
 
-TEST(art_bank, draws_every_name_with_plain_means_only) {
+TEST(ArtBank, DrawsEveryNameWithPlainMeansOnly) {
     for (const auto& [id, name] : bank) {
         const std::string text = svg(id);
         const auto [width, height] = svg_size(id);
@@ -167,7 +167,7 @@ TEST(art_bank, draws_every_name_with_plain_means_only) {
 }
 
 // A lint that lets everything pass would be worth nothing.
-TEST(art_bank, lint_sees_what_some_renderers_leave_out) {
+TEST(ArtBank, LintSeesWhatSomeRenderersLeaveOut) {
     const std::string head =
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\" viewBox=\"0 0 9 9\">\n";
     const auto faulty = [&](const std::string& body) { return !faults_of(head + body + "</svg>\n").empty(); };
@@ -181,7 +181,7 @@ TEST(art_bank, lint_sees_what_some_renderers_leave_out) {
 }
 
 // Their signs are paths: a picture that bears one must look different, and no other may.
-TEST(art_bank, shows_dollars_where_a_picture_bears_a_pound) {
+TEST(ArtBank, ShowsDollarsWhereAPictureBearsAPound) {
     const auto differs = [](art a) { return svg(a, true) != svg(a, false); };
     EXPECT_TRUE(differs(art::transferpic));
     for (int n = 1; n <= 24; ++n) {
@@ -192,7 +192,7 @@ TEST(art_bank, shows_dollars_where_a_picture_bears_a_pound) {
     }
 }
 
-TEST(art_bank, tells_all_pictures_apart) {
+TEST(ArtBank, TellsAllPicturesApart) {
     std::map<std::string, std::string> seen; // text to name
     std::map<std::string, art> by_name;
     for (const auto& [id, name] : bank) {

@@ -1,10 +1,10 @@
 // The board's die, in the gamble and on the ring, and the awards' draws, against odds that are
 // worked out here from the rules alone.
 //
-// Each measurement is a chi-square over 100,000 rolls with a fixed seed. Its bound is the 99.9
-// percent point for the degrees of freedom, by the approximation of Wilson and Hilferty.
+// Each measurement is over 100,000 rolls with a fixed seed.
 #include "board/board.h"
 #include "board/reelawards.h"
+#include "tests/chisquare.h"
 #include "tests/testgame.h"
 
 #include <gtest/gtest.h>
@@ -19,41 +19,23 @@ namespace {
 constexpr int rolls = 100000;
 constexpr int checked_draws = 28; // from a count of 1: the next one, the thirtieth, stands
 
-struct tally {
-    double chi_square = 0;
-    int freedom = 0;
-
-    // One set of cells; `odds` and `seen` by die. What the rules refuse is one cell together: only
-    // the limit of draws lets it through.
-    void add(const std::array<double, 7>& odds, const std::array<int, 7>& seen, int samples, auto allowed) {
-        double rest = 0;
-        int seen_rest = 0;
-        int cells = 0;
-        const auto cell = [&](double share, int times) {
-            const double wanted = share * samples;
-            if (wanted < 1) {
-                EXPECT_EQ(times, 0);
-                return;
-            }
-            chi_square += (times - wanted) * (times - wanted) / wanted;
-            ++cells;
-        };
-        for (std::size_t die = 1; die <= 6; ++die) {
-            if (allowed(static_cast<int>(die)))
-                cell(odds[die], seen[die]);
-            else {
-                rest += odds[die];
-                seen_rest += seen[die];
-            }
+// One set of cells; `odds` and `seen` by die. What the rules refuse is one cell together: only the limit
+// of draws lets it through.
+void add_set(chi_square& found, const std::array<double, 7>& odds, const std::array<int, 7>& seen,
+             int samples, auto allowed) {
+    double rest = 0;
+    int seen_rest = 0;
+    for (std::size_t die = 1; die <= 6; ++die) {
+        if (allowed(static_cast<int>(die)))
+            found.cell(odds[die] * samples, seen[die]);
+        else {
+            rest += odds[die];
+            seen_rest += seen[die];
         }
-        cell(rest, seen_rest);
-        freedom += cells - 1;
     }
-    double bound() const {
-        const double part = 2.0 / (9.0 * freedom);
-        return freedom * std::pow(1 - part + 3.09 * std::sqrt(part), 3);
-    }
-};
+    found.cell(rest * samples, seen_rest);
+    found.end_set();
+}
 
 // The odds of a die that is drawn evenly from the possible faces, and again while it is refused.
 std::array<double, 7> odds_of(auto possible, auto allowed) {
@@ -70,18 +52,6 @@ std::array<double, 7> odds_of(auto possible, auto allowed) {
             odds[static_cast<std::size_t>(die)] = limit / faces + (allowed(die) ? (1 - limit) / good : 0.0);
     return odds;
 }
-
-struct diegame {
-    testworld world;
-    game g{world};
-
-    diegame() {
-        world.state = 20240615;
-        reset_game(g, 0);
-        g.m.soundstate = "off";
-        g.b.rolltries = 1;
-    }
-};
 
 // ---- the ring ----
 
@@ -125,6 +95,7 @@ bool may_reach(const ring_case& c, int from, int to) {
 
 void set_up(game& g, const ring_case& c, int from) {
     g.m.featuremode = "feature";
+    g.b.rolltries = 1;
     g.m.pcent = c.pcent;
     g.m.invincible = c.guarded ? "yes" : "no";
     g.b.cashrung = static_cast<count>(c.cashrung);
@@ -136,7 +107,7 @@ void set_up(game& g, const ring_case& c, int from) {
 }
 
 TEST(Ring, RefusesExactlyTheRollsThatTheRulesForbid) {
-    diegame t;
+    testgame t(20240615);
     for (const ring_case& c : ring_cases)
         for (int from = 1; from <= 24; ++from) {
             int good = 1;
@@ -155,7 +126,7 @@ TEST(Ring, RefusesExactlyTheRollsThatTheRulesForbid) {
 }
 
 TEST(Ring, LetsTheLastDrawStandWhereNothingMayPass) {
-    diegame t;
+    testgame t(20240615);
     const ring_case nothing_passes = {"", 1, 1, 1, 90, false, true}; // from 14: only a 5, and no 5
     for (const int counted : {0, 1}) {
         set_up(t.g, nothing_passes, 14);
@@ -169,9 +140,9 @@ TEST(Ring, LetsTheLastDrawStandWhereNothingMayPass) {
 }
 
 TEST(Ring, RollsWithTheOddsOfTheRules) {
-    diegame t;
+    testgame t(20240615);
     for (const ring_case& c : ring_cases) {
-        tally sum;
+        chi_square found;
         for (int from = 1; from <= 24; ++from) {
             const auto allowed = [&](int die) { return may_reach(c, from, square_after(from, die)); };
             std::array<int, 7> seen{};
@@ -180,9 +151,9 @@ TEST(Ring, RollsWithTheOddsOfTheRules) {
                 rolldice(t.g);
                 ++seen[static_cast<std::size_t>(t.g.b.dice)];
             }
-            sum.add(odds_of([](int) { return true; }, allowed), seen, rolls / 24, allowed);
+            add_set(found, odds_of([](int) { return true; }, allowed), seen, rolls / 24, allowed);
         }
-        EXPECT_LT(sum.chi_square, sum.bound()) << c.name << ", " << sum.freedom << " degrees";
+        EXPECT_LT(found.sum, found.bound()) << c.name << ", " << found.freedom << " degrees";
     }
 }
 
@@ -201,10 +172,10 @@ constexpr call_case call_cases[] = {
 };
 
 TEST(Gamble, RollsWithTheOddsOfTheRules) {
-    diegame t;
+    testgame t(20240615);
     game& g = t.g;
     for (const call_case& c : call_cases) {
-        tally sum;
+        chi_square found;
         for (int last = 1; last <= 6; ++last)
             for (const bool hi : {true, false}) {
                 if ((hi && last == 6) || (!hi && last == 1))
@@ -232,9 +203,10 @@ TEST(Gamble, RollsWithTheOddsOfTheRules) {
                     ASSERT_NE(die, last);
                     ASSERT_EQ(g.m.win == 0, !wins(die)); // a loss takes the money at once
                 }
-                sum.add(odds_of([last](int die) { return die != last; }, allowed), seen, rolls / 10, allowed);
+                add_set(found, odds_of([last](int die) { return die != last; }, allowed), seen, rolls / 10,
+                        allowed);
             }
-        EXPECT_LT(sum.chi_square, sum.bound()) << c.name << ", " << sum.freedom << " degrees";
+        EXPECT_LT(found.sum, found.bound()) << c.name << ", " << found.freedom << " degrees";
     }
 }
 
@@ -272,7 +244,7 @@ TEST(Awards, DrawEveryRowOfTheirBandAndNoOther) {
         {winspin, award, 82, 4},     {winspin, award, 82.05F, 0},  {winspin, award, 82.1F, 3},
         {winspin, award, 90.05F, 0}, {winspin, award, 90.1F, 2},   {streakspin, award, 99, 7},
     };
-    diegame t;
+    testgame t(20240615);
     for (const band& b : bands) {
         std::set<int> wanted;
         for (int row = b.reach == 0 ? 0 : 1; row <= b.reach; ++row)

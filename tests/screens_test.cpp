@@ -1,8 +1,5 @@
 // What the side screens ask of the world outside: pages, system information, the locale's money.
-#include "panel/stillworld.h"
-#include "screens/dispatch.h"
-
-#include "core/start.h"
+#include "tests/testgame.h"
 
 #include <gtest/gtest.h>
 
@@ -13,31 +10,7 @@ namespace hustle {
 
 namespace {
 
-struct outside : stillworld {
-    std::vector<page> pages;
-    std::vector<std::string> boxes;
-    bool has_system_info = false;
-
-    void browse(page which) override { pages.push_back(which); }
-    bool system_info() override { return has_system_info; }
-    bool box(const message& m) override {
-        boxes.push_back(std::string(m.title) + "|" + std::string(m.text));
-        return true;
-    }
-    std::string currency(float) override { return "12,50 €"; }
-};
-
-struct SideScreens : testing::Test {
-    outside world;
-    game g{world};
-
-    SideScreens() {
-        reset_game(g, 0);
-        boot(g);
-        deliver(g, 350);
-    }
-    void press(element e) { apply(g, {.what = input::kind::press, .on = e}); }
-};
+struct SideScreens : testing::Test, testgame {};
 
 } // namespace
 
@@ -59,6 +32,7 @@ TEST_F(SideScreens, TellWhereThereIsNoSystemInformation) {
 }
 
 TEST_F(SideScreens, WriteMoneyAsTheSystemDoes) {
+    world.money = "12,50 €";
     g.m.currency = "usd";
     press(element::hscoretable);
     EXPECT_EQ(caption(g.p, element::Highscore_one), "1.                 12,50 €");

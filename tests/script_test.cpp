@@ -23,7 +23,7 @@ ended run(std::string_view text) {
     return {status, out.str(), err.str()};
 }
 
-TEST(script, reads_words_texts_and_comments) {
+TEST(Script, ReadsWordsTextsAndComments) {
     const auto w = words_of("  set\tx \"a # \\\"b\\\\\\r\\n£\" # the rest \"");
     ASSERT_EQ(w.size(), 3U);
     EXPECT_EQ(w[1].text, "x");
@@ -35,7 +35,7 @@ TEST(script, reads_words_texts_and_comments) {
         EXPECT_THROW(words_of(bad), script_error) << bad;
 }
 
-TEST(script, ends_at_the_first_line_that_makes_no_sense) {
+TEST(Script, EndsAtTheFirstLineThatMakesNoSense) {
     struct {
         const char *line, *said;
     } const bad[] = {
@@ -84,7 +84,7 @@ TEST(script, ends_at_the_first_line_that_makes_no_sense) {
 }
 
 // Scripts come with fault reports, from anyone.
-TEST(script, takes_only_whole_texts_of_a_bounded_size) {
+TEST(Script, TakesOnlyWholeTextsOfABoundedSize) {
     std::string text;
     EXPECT_EQ(read_script_file("/", text), "is a folder");
     EXPECT_EQ(read_script_file("nowhere.txt", text), "cannot be read");
@@ -97,7 +97,7 @@ TEST(script, takes_only_whole_texts_of_a_bounded_size) {
     EXPECT_EQ(printable(std::string(500, 'x')), std::string(400, 'x') + "...");
 }
 
-TEST(script, goes_on_after_what_does_not_hold) {
+TEST(Script, GoesOnAfterWhatDoesNotHold) {
     const ended e =
         run("expect credits 21\nexpect credits ~20.005\nexpect front \"main\"\nexpect front main\n"
             "until nudges 3 500\nget main.lampstep.x\n");
@@ -110,7 +110,7 @@ TEST(script, goes_on_after_what_does_not_hold) {
     EXPECT_EQ(run("until lampstep 3\nuntil lampstep 3 0").status, 0);
 }
 
-TEST(script, names_are_sorted_and_each_stands_once) {
+TEST(Script, NamesAreSortedAndEachStandsOnce) {
     std::ostringstream out;
     const session s(out);
     const auto all = s.known.all();
@@ -119,7 +119,7 @@ TEST(script, names_are_sorted_and_each_stands_once) {
     EXPECT_GT(all.size(), 1000U);
 }
 
-TEST(script, takes_back_every_value_that_it_dumps) {
+TEST(Script, TakesBackEveryValueThatItDumps) {
     const ended first = run("press main.start\nrun 9000\nload feature\nset pcent 80.19802\ndump");
     ASSERT_EQ(first.status, 0);
     EXPECT_NE(first.out.find("\npcent = 80.19802\n"), std::string::npos);
@@ -140,7 +140,7 @@ TEST(script, takes_back_every_value_that_it_dumps) {
 }
 
 // Two ways to the same state have one hash; the least lamp moves it.
-TEST(script, hash_is_of_the_dump_alone) {
+TEST(Script, HashIsOfTheDumpAlone) {
     std::ostringstream unused;
     session s(unused);
     s.boot();
@@ -153,7 +153,7 @@ TEST(script, hash_is_of_the_dump_alone) {
     EXPECT_EQ(hash(s.known), h);
 }
 
-TEST(script, tells_the_way_of_the_focus) {
+TEST(Script, TellsTheWayOfTheFocus) {
     EXPECT_EQ(run("boot\ntrace on\npress main.gstat\nget front\nfocus main\nfocus main\nkey 65 main\n"
                   "key 65 About\nclose About\npress About.cmdOK\npress main.toplogo\nunload About\n"
                   "set credits 7\ncall main.pairhold\n")
@@ -167,7 +167,7 @@ TEST(script, tells_the_way_of_the_focus) {
               "@350 unload About ignored\n@350 call main.pairhold\n");
 }
 
-TEST(script, keeps_logs_files_and_answers) {
+TEST(Script, KeepsLogsFilesAndAnswers) {
     EXPECT_EQ(run("file hscore.dat\n 1\nend x\nend\nget file.hscore.dat file.game.dat\n").out,
               "file.hscore.dat = \"\"\nfile.game.dat = \"\"\n")
         << "the damaged file was set aside";
@@ -182,7 +182,7 @@ TEST(script, keeps_logs_files_and_answers) {
               false);
 }
 
-TEST(script, holds_still_after_the_exit) {
+TEST(Script, HoldsStillAfterTheExit) {
     const ended e = run("trace on\nclose main\nset credits 3\nrun 1000\npress main.start\nget credits\n"
                         "until credits 3 10\n");
     EXPECT_NE(e.out.find("  exit\n"), std::string::npos);

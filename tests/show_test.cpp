@@ -5,35 +5,29 @@
 #include "core/nudges.h"
 #include "core/play.h"
 #include "core/reels.h"
-#include "core/start.h"
 #include "core/upward.h"
 #include "core/wins.h"
 #include "panel/sheet.h"
-#include "panel/stillworld.h"
 #include "screens/events.h"
 #include "show/hints.h"
 #include "show/spokennames.h"
 #include "show/stage.h"
+#include "tests/testgame.h"
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <functional>
 
 using namespace hustle;
 
 namespace {
 
-struct Show : testing::Test {
-    stillworld w;
-    game g{w};
+struct Show : testing::Test, testgame {
     stage s;
 
     void SetUp() override {
-        reset_game(g, 0);
-        boot(g);
-        settle(g);
-        deliver(g, 400);
+        start();
+        testgame::run(50);
         look();
     }
     void look() {

@@ -1,13 +1,12 @@
 // The sub-games of the board: the belts' prices, and the long-run shares of the three lights that
 // run at random, each against the shares that its rules give.
 //
-// The statistic is chi-square; its bound is the 99.9 percent point for the degrees of freedom.
 // The walks remember where they stood, so that samples are taken far enough apart to be independent.
-#include "core/start.h"
 #include "core/ticks.h"
-#include "panel/stillworld.h"
 #include "subgames/belts.h"
 #include "subgames/subgames.h"
+#include "tests/chisquare.h"
+#include "tests/testgame.h"
 
 #include <gtest/gtest.h>
 
@@ -17,30 +16,6 @@
 
 namespace hustle {
 namespace {
-
-struct running_machine {
-    stillworld world;
-    game g{world};
-
-    explicit running_machine(std::uint64_t seed) {
-        world.state = seed;
-        reset_game(g, 0);
-    }
-};
-
-// `shares` name each value's share of the samples; they add up to 1. A value outside is a failure.
-double chi_square(const std::map<int, double>& shares, const std::map<int, int>& seen, int samples) {
-    for (const auto& [value, times] : seen)
-        EXPECT_TRUE(shares.contains(value)) << value;
-    double sum = 0;
-    for (const auto& [value, share] : shares) {
-        const double wanted = share * samples;
-        const auto found = seen.find(value);
-        const double off = (found == seen.end() ? 0 : found->second) - wanted;
-        sum += off * off / wanted;
-    }
-    return sum;
-}
 
 template <class Step, class Read> std::map<int, int> sample(int samples, int gap, Step step, Read read) {
     std::map<int, int> seen;
@@ -97,7 +72,7 @@ TEST(Belts, StopAtTheNextWholeTriple) {
             const std::string_view belt = award == "moneybelt" ? creepy_belt(row) : super_belt(row);
             const std::vector<int> sums = triples(belt);
             for (int offset = 0; offset <= 221; ++offset) {
-                running_machine r(1);
+                testgame r(1);
                 open_screen(r.g.p, screen::feature);
                 r.g.m.award = award;
                 r.g.b.beltphase = 1;
@@ -124,7 +99,7 @@ TEST(Belts, StopAtTheNextWholeTriple) {
 // 1/9 for rungs 2 to 9, and half of that for rung 1 (only from above) and rung 10 (only from it).
 // Its slowest part fades as cos(pi/9) per tick: 400 ticks leave 1e-11 of it.
 TEST(LongRun, FastCashStandsOnItsRungs) {
-    running_machine r(20);
+    testgame r(20);
     open_screen(r.g.p, screen::feature);
     r.g.m.fastcashway = "up";
     r.g.b.readystep = 2; // once rung 1 has lit, the pointer never falls below 2
@@ -135,7 +110,7 @@ TEST(LongRun, FastCashStandsOnItsRungs) {
     for (int value : {160, 200, 300, 360, 400, 500, 600, 800})
         shares[value] = 1.0 / 9;
     shares[100] = shares[1500] = 1.0 / 18;
-    EXPECT_LT(chi_square(shares, seen, samples), 27.88); // 9 degrees
+    expect_shares(shares, seen, samples);
 }
 
 // The shock. With an extra life on offer each tick goes to one of the seven other places, so that
@@ -145,7 +120,7 @@ TEST(LongRun, FastCashStandsOnItsRungs) {
 TEST(LongRun, TheShockStandsOnItsPlaces) {
     const int samples = 24000;
     for (const bool life : {true, false}) {
-        running_machine r(21);
+        testgame r(21);
         open_screen(r.g.p, screen::feature);
         r.g.m.pcent = life ? 84.9f : 85.0f;
         const auto seen = sample(
@@ -157,13 +132,13 @@ TEST(LongRun, TheShockStandsOnItsPlaces) {
             shares.erase(6);
             shares[7] = 1.0 / 4;
         }
-        EXPECT_LT(chi_square(shares, seen, samples), life ? 24.32 : 22.46); // 7 and 6 degrees
+        expect_shares(shares, seen, samples);
     }
 }
 
 // The random stop: each of the 24 squares is as likely as any other at each tick.
 TEST(LongRun, TheRandomStopStandsOnEverySquare) {
-    running_machine r(22);
+    testgame r(22);
     open_screen(r.g.p, screen::feature);
     r.g.b.boardpos = 23;
     const int samples = 48000;
@@ -172,7 +147,7 @@ TEST(LongRun, TheRandomStopStandsOnEverySquare) {
     std::map<int, double> shares;
     for (int square = 1; square <= 24; ++square)
         shares[square] = 1.0 / 24;
-    EXPECT_LT(chi_square(shares, seen, samples), 49.73); // 23 degrees
+    expect_shares(shares, seen, samples);
 }
 
 } // namespace

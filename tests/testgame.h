@@ -1,4 +1,4 @@
-// A machine for the tests: booted to main, in a world that can be told its next draws.
+// The machine of all tests, in a world that can be told its next draws and keeps what it was asked.
 #pragma once
 
 #include "core/start.h"
@@ -13,8 +13,11 @@ namespace hustle {
 
 struct testworld : stillworld {
     std::deque<int> draws;          // these come before the generator's
-    std::vector<std::string> boxes; // the texts of the boxes shown
+    std::vector<std::string> boxes; // the boxes shown: title, a bar, text
+    std::vector<page> pages;        // the pages opened
     bool yes = false;               // the answer to a question
+    bool has_system_info = false;
+    std::string money; // how the system writes an amount; empty: as in the UK
 
     int draw(int n) override {
         if (draws.empty())
@@ -24,8 +27,13 @@ struct testworld : stillworld {
         return k;
     }
     bool box(const message& m) override {
-        boxes.emplace_back(m.text);
+        boxes.push_back(std::string(m.title) + "|" + std::string(m.text));
         return m.yes_or_no ? yes : true;
+    }
+    void browse(page which) override { pages.push_back(which); }
+    bool system_info() override { return has_system_info; }
+    std::string currency(float amount) override {
+        return money.empty() ? stillworld::currency(amount) : money;
     }
 };
 
@@ -33,7 +41,12 @@ struct testgame {
     testworld world;
     game g{world};
 
-    testgame() { start(); }
+    testgame() { start(); } // booted, with main in front
+    // As it stands before any screen is loaded, with the generator at a seed.
+    explicit testgame(std::uint64_t seed) {
+        world.state = seed;
+        reset_game(g, 0);
+    }
     void start() {
         reset_game(g, 43200000);
         boot(g);

@@ -1,12 +1,10 @@
 // The parts of the window that need no screen: its clock, its names and its letters.
 #include "art/art.h"
 #include "art/dotfont.h"
-#include "core/start.h"
 #include "desktop/session/clock.h"
 #include "panel/sheet.h"
-#include "panel/stillworld.h"
-#include "screens/dispatch.h"
 #include "show/spokennames.h"
+#include "tests/testgame.h"
 
 #include <QImage>
 #include <QPainter>
@@ -19,18 +17,6 @@ namespace hustle::desktop {
 
 namespace {
 
-// A machine on main, just booted.
-struct booted {
-    stillworld w;
-    game g{w};
-
-    booted() {
-        reset_game(g, 43'200'000);
-        boot(g);
-        deliver(g, 1000);
-    }
-};
-
 int ticks_at(machine_clock& clock, panel& p, std::int64_t real) {
     const std::int64_t until = catch_up(clock, p, real);
     int count = 0;
@@ -42,7 +28,8 @@ int ticks_at(machine_clock& clock, panel& p, std::int64_t real) {
 }
 
 TEST(Clock, FollowsTheRealOneAndNeverMakesUpForAStall) {
-    booted b;
+    testgame b;
+    b.run(650);
     panel& p = b.g.p;
     machine_clock clock;
     int steady = 0;
@@ -60,7 +47,8 @@ TEST(Clock, FollowsTheRealOneAndNeverMakesUpForAStall) {
 }
 
 TEST(Clock, GivesAQuickTimerAFewTicksAtATime) {
-    booted b;
+    testgame b;
+    b.run(650);
     panel& p = b.g.p;
     open_screen(p, screen::feature);
     start_timer(p, timer::feature_fastcash); // every millisecond
@@ -70,7 +58,8 @@ TEST(Clock, GivesAQuickTimerAFewTicksAtATime) {
 }
 
 TEST(Names, TellEveryButtonLampAndLine) {
-    booted b;
+    testgame b;
+    b.run(650);
     for (const screen_row& s : screen_rows())
         for (const element_row& r : elements_of(s.id))
             if (takes_press(r.what)) {
