@@ -98,8 +98,7 @@ def tabs():
                 b.command("Page.addScriptToEvaluateOnNewDocument", source=without)
                 b.open()
                 b.answer(answer)
-                if answer == "asitis":
-                    b.ready()
+                b.ready()
                 b.until("hustle.get('main.loaded')")
                 return b.driver.current_window_handle
 
@@ -119,13 +118,14 @@ def tabs():
             b.driver.get("about:blank")
             second = tab("bring")
             assert b.get("streakbank") == one, "the second tab has what the first one saved"
-            stands(plays())
-            kept = b.value(GAME)
+            two = plays()
+            stands(two)
             b.driver.switch_to.window(first)
             b.until("document.querySelector('dialog[open]')?.textContent.includes('another tab') === true")
             b.driver.get("about:blank")
             b.driver.switch_to.window(second)
-            assert b.value(GAME) == kept, "the first tab writes no more"
+            # The second one may have saved the end of its play meanwhile; its stakes stand.
+            assert b.value(f"Number({GAME}.split('\\r\\n')[5])") == two, "the first tab writes no more"
 
 
 def offline():
