@@ -43,7 +43,7 @@ TEST(Text, PlainFormReadsBackAndHasNoExponent) {
 }
 
 constexpr std::string_view saved =
-    "123.25\r\n98.4\r\n8\r\n.2\r\n-3\r\n0.04\r\n12.5\r\n1E+1\r\n\r\n16\r\n1\r\n7\r\n"
+    "123.25  \r\n 98.4\r\n8\r\n.2\r\n-3\r\n0.04\r\n12.5\r\n1E+1\r\n\r\n16\r\n1\r\n7\r\n"
     "2\r\n\"off\"\r\n\"no\"\r\n6\r\n\"usd\"\r\n";
 
 TEST(Files, GameIsReadLineByLineAndWrittenBack) {
