@@ -106,8 +106,9 @@ void refresh_side(session& s, screen what) {
         view->setWindowTitle(title);
     view->refresh();
     if (fresh) {
-        view->show();
         view->speak();
+        view->setFocus(Qt::OtherFocusReason); // else a button takes it, unseen, and Enter presses that
+        view->show();
     }
 }
 

@@ -16,6 +16,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
@@ -181,6 +182,32 @@ TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {
     p.s.window->close();
     p.until_over();
     EXPECT_NE(p.stored("game.dat"), "");
+}
+
+TEST(Session, OpensAWindowWithNoButtonUnderEnterUntilTabChoosesOne) {
+    for (const bool active : {false, true}) { // a busy desktop lets it wait for the keys
+        program p;
+        p.start();
+        load_screen(p.s.g, screen::Highscore);
+        settle(p.s.g);
+        refresh(p.s);
+        QWidget* const table = p.s.side[static_cast<std::size_t>(screen::Highscore)];
+        ASSERT_NE(table, nullptr);
+        if (active)
+            p.until([&] { return table->isActiveWindow(); });
+        const auto key = [&](int code) {
+            QWidget* const focus = table->focusWidget() != nullptr ? table->focusWidget() : table;
+            QKeyEvent down(QEvent::KeyPress, code, Qt::NoModifier),
+                up(QEvent::KeyRelease, code, Qt::NoModifier);
+            QApplication::sendEvent(focus, &down);
+            QApplication::sendEvent(focus, &up);
+        };
+        key(Qt::Key_Return);
+        EXPECT_TRUE(is_loaded(p.s.g.p, screen::Highscore)) << "active " << active;
+        key(Qt::Key_Tab);
+        key(Qt::Key_Return); // the first button leads back
+        EXPECT_FALSE(is_loaded(p.s.g.p, screen::Highscore)) << "active " << active;
+    }
 }
 
 TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
