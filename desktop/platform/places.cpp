@@ -31,7 +31,7 @@ QString shipped_folder(const QString& name) {
 
 QString shipped_module(const QString& name) {
     const QString beside = QCoreApplication::applicationDirPath() + "/";
-    const QString installed = beside + "../lib/hoardhustle/" + name + ".so";
+    const QString installed = beside + "../lib/hoardhustle/modules/" + name + ".so";
     return QDir::cleanPath(QFileInfo::exists(installed) ? installed : beside + name + ".so");
 }
 
