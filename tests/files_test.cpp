@@ -106,6 +106,26 @@ TEST(Files, ADamagedFileThatCannotBeMovedIsNotToldAsKept) {
     EXPECT_EQ(stuck.boxes[0].find("kept as"), std::string::npos);
 }
 
+TEST(Files, AFailedSaveIsToldAndThePlayEndsAllTheSame) {
+    struct : testworld {
+        bool write(store s, std::string_view text) override {
+            return s == store::hscore_dat && stillworld::write(s, text);
+        }
+    } full;
+    game g{full};
+    reset_game(g, 0);
+    boot(g);
+    deliver(g, 350);
+    apply(g, {.what = input::kind::close, .where = screen::main});
+    ASSERT_FALSE(full.boxes.empty());
+    EXPECT_EQ(full.boxes.back(), "Hoard Hustle|game.dat could not be saved.");
+    apply(g, {.what = input::kind::close, .where = screen::Highscore});
+    EXPECT_TRUE(full.ended);
+    EXPECT_TRUE(full.files[1].has_value()) << "the other file is saved";
+    EXPECT_FALSE(apply(g, {.what = input::kind::press, .on = element::start}))
+        << "nothing is pressed after the end";
+}
+
 TEST(Files, NamesKeepTheirQuotesAndLoseTheirLineBreaks) {
     machine m;
     m.hiscore[0] = 12.4f;

@@ -66,6 +66,11 @@ TEST(Script, EndsAtTheFirstLineThatMakesNoSense) {
         {"get \xe2\x80\xae!", "unknown name ?!"},
         {"reel 4 1", "reel takes a number from 1 to 3, not 4"},
         {"type main.start \"x\"", "main.start is no text box"},
+        {"type Entername.Text1 x", "type takes a text in double quotes, not x"},
+        {"trace loud", "trace takes on or off, not loud"},
+        {"clock 86400", "clock takes seconds since midnight, below 86400, not 86400"},
+        {"set pcent eighty", "pcent takes a number, not eighty"},
+        {"press main.start extra", "the form is: press SCREEN.ELEMENT"},
         {"answer perhaps", "answer takes yes, no or ok, not perhaps"},
         {"file other.dat", "file takes game.dat or hscore.dat, not other.dat"},
         {"file game.dat\n1\n2", "file has no end"},
@@ -78,6 +83,8 @@ TEST(Script, EndsAtTheFirstLineThatMakesNoSense) {
         EXPECT_NE(e.err.find(said), std::string::npos) << line << " told " << e.err;
         EXPECT_EQ(e.out, "") << line;
     }
+    EXPECT_EQ(run("\xEF\xBB\xBFget credits\r\n").out, "credits = 20\n")
+        << "as another system's editor saves it";
     EXPECT_EQ(run("# one\n\njump").err, "s:3: unknown command jump\n");
     EXPECT_EQ(run("boot\nclock 5").err, "s:2: clock is only taken before the boot\n");
     EXPECT_EQ(run("draws 17\npress main.start\nrun 9\nuntil reel1pos 1").err.substr(0, 4), "s:4:");
