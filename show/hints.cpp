@@ -41,13 +41,11 @@ std::string_view stopper_hint(const game& g) {
     for (const stop_hint& s : main_stops)
         if (runs(g, s.running))
             return s.text;
-    return "Space stops";
+    return {}; // live before its light runs
 }
 
 constexpr timer reels[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3,    timer::spinreel1,
                            timer::spinreel2, timer::spinreel3, timer::start_spin_in};
-
-bool any_held(const machine& m) { return held_reels(m) > 0; }
 
 std::string_view offer_hint(const game& g) {
     const machine& m = g.m;
@@ -57,7 +55,9 @@ std::string_view offer_hint(const game& g) {
         return "Hold nothing: Space spins free, and the reels make a win";
     if (m.linepromised == truth::is)
         return "Hold nothing more: Space spins free, and the reels make a win";
-    if (any_held(m))
+    if (held_reels(m) == 3)
+        return "C clears the holds; Space plays";
+    if (held_reels(m) > 0)
         return "1 2 3 hold a reel, C clears the holds; Space plays";
     return "Hold lamps flash: 1 2 3 hold a reel; Space plays";
 }
@@ -109,10 +109,13 @@ constexpr stop_hint board_stops[] = {
 std::string_view board_stop_hint(const game& g) {
     if (g.m.award == award::shots && g.b.shotstate == shooting::on_offer)
         return "Space shoots again; Tab and Enter on Collect takes the prize";
+    if ((runs(g, timer::feature_pickaladder) && g.b.ladderpick == 0) ||
+        (runs(g, timer::feature_yesorno) && g.b.yesnoanswer.empty()))
+        return {}; // nothing is shown yet, and nothing is taken
     for (const stop_hint& s : board_stops)
         if (runs(g, s.running))
             return s.text;
-    return "Space stops";
+    return {};
 }
 
 bool can_call(const game& g) { return live(g, feature_hibutton) || live(g, feature_lobutton); }
@@ -126,9 +129,13 @@ std::string_view gamble_hint(const game& g) {
 }
 
 std::string_view board_hint(const game& g) {
+    if (runs(g, timer::feature_exittimer)) // the board closes, whatever key is still live
+        return {};
     if (live(g, feature_stopfeature))
         return board_stop_hint(g);
-    if (g.m.featuremode == mode::hilo && !board_chain_runs(g))
+    if (board_chain_runs(g))
+        return {};
+    if (g.m.featuremode == mode::hilo)
         return gamble_hint(g);
     if (live(g, feature_startbutton))
         return live(g, feature_cashbutton)
