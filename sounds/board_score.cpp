@@ -72,23 +72,24 @@ constexpr phrase phrases[] = {
     // The sorry horn, step by step down.
     {s::gameover,  moan,      0, 300, 260, 100, "a3 ab3 g3 f#3>d3:800"},
     {s::gameover,  low,       0, 300, 220,  35, "d3 d3 d3 d2:600"},
-    // A bell tolls.
-    {s::gameover1, dong,      0, 420, 700, 100, "d4 bb3 d3:900"},
-    {s::gameover1, moan,    840,   0, 700,  30, "d3+f3"},
-    // The current goes.
-    {s::gameover2, lead,      0,   0,1000,  80, "d5>d2"},
-    {s::gameover2, low,       0,   0,1000,  60, "a3>a1"},
-    {s::gameover2, click,   120, 150,  20,  40, "d7 c7 a6 g6 f6"},
-    {s::gameover2, thump, 1000,    0, 120,  90, "d2"},
+    // A clock strikes, far off and without haste, and the last stroke sinks.
+    {s::gameover1, dong,      0, 560, 520, 100, "a4 a4 a4 d4:900"},
+    {s::gameover1, glass,     0, 560, 420,  45, "a6 a6 a6 d6:700"},
+    {s::gameover1, tick,    280, 560,  25,  30, "a5 d5 a5 d5"},
+    // The current goes: one long slide down, ever slower sparks, and dark.
+    {s::gameover2, lead,      0,   0,1250, 100, "d6>d2"},
+    {s::gameover2, lead,      0,   0,1250,  60, "a5>a2"},
+    {s::gameover2, click,   150, 190,  20,  45, "d7 c7 a6 g6 f6"},
     // A cheeky farewell that ends on the wrong foot.
-    {s::gameover3, pluck,     0, 105, 140, 100, "d5 a4 a4 bb4 . a4"},
+    {s::gameover3, pluck,     0, 105, 140, 100, "d6 a5 a5 bb5 . a5"},
     {s::gameover3, pluck,   840, 210, 260,  80, "c#4+e4+g4 d3+a3+d4:400"},
     {s::gameover3, low,     840, 210, 150,  40, "a2 d2:300"},
-    // The vault door.
-    {s::gameover4, drum,      0,  55,  90,  50, "d3 d3 d3 d3 d3 d3 d3 d3 d3 d3"},
-    {s::gameover4, boom,    560,   0, 600,  80, "d2"},
-    {s::gameover4, brass,   560,   0, 620,  75, "d3+f3+ab3+b3"},
-    {s::gameover4, click,  1150,  90,  30,  60, "g6 d6"},
+    // The vault: three bolts run home, the door falls to, the key turns.
+    {s::gameover4, click,     0, 150,  40, 100, "d6 d6 d6"},
+    {s::gameover4, thump,    30, 150,  80,  90, "a2 a2 a2"},
+    {s::gameover4, boom,    520,   0, 700, 100, "d2"},
+    {s::gameover4, rubble,  530,   0, 260,  40, "a3>d3"},
+    {s::gameover4, click,  1180,  90,  30,  80, "g6 d6"},
 
     {s::thinice,   ice,       0,   0, 520, 100, "d7"},
     {s::thinice,   glass,    30,   0, 700,  60, "a6+bb6"},

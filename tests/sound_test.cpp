@@ -7,10 +7,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <map>
+#include <numeric>
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -46,6 +52,75 @@ TEST(Waves, EachHasABodyAndQuietEndsAndIsNoOther) {
 // What runs at every few ticks must have said its say when the next one cuts it.
 TEST(Waves, ThePayoutFitsItsTick) {
     EXPECT_LT(sounds::render(sound::win2bank).size(), sounds::rate * 80U / 1000U);
+}
+
+// How strong each third of an octave is in each twentieth of a second.
+constexpr std::size_t bands = 24, frame = sounds::rate / 20;
+using imprint = std::vector<std::array<double, bands>>;
+
+imprint imprint_of(const std::vector<std::int16_t>& wave) {
+    imprint all((wave.size() + frame - 1) / frame);
+    for (std::size_t band = 0; band < bands; ++band) {
+        const double turn = 6.283185307179586 * 73.4 * std::pow(2.0, band / 3.0) / sounds::rate;
+        const double width = std::sin(turn) / 8; // of a resonator that rings four times
+        double x1 = 0, x2 = 0, y1 = 0, y2 = 0;
+        for (std::size_t i = 0; i < wave.size(); ++i) {
+            const double x = wave[i];
+            const double y = (width * (x - x2) + 2 * std::cos(turn) * y1 - (1 - width) * y2) / (1 + width);
+            x2 = std::exchange(x1, x);
+            y2 = std::exchange(y1, y);
+            all[i / frame][band] += y * y;
+        }
+        for (auto& moment : all)
+            moment[band] = std::sqrt(moment[band] / frame);
+    }
+    return all;
+}
+
+// 0: the same to a fifth of a second's shift and a volume; 1: nothing in common.
+double apart(const imprint& a, const imprint& b) {
+    const auto product = [](const imprint& p, const imprint& q, std::ptrdiff_t shift) {
+        double sum = 0;
+        for (std::size_t i = 0; i < p.size(); ++i) {
+            const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(i) + shift;
+            if (at >= 0 && at < std::ssize(q))
+                sum = std::inner_product(p[i].begin(), p[i].end(), q[static_cast<std::size_t>(at)].begin(),
+                                         sum);
+        }
+        return sum;
+    };
+    double likeness = 0;
+    for (std::ptrdiff_t shift = -4; shift <= 4; ++shift)
+        likeness = std::max(likeness, product(a, b, shift));
+    return 1 - likeness / std::sqrt(product(a, a, 0) * product(b, b, 0));
+}
+
+double loudest_moment(const std::vector<std::int16_t>& wave) {
+    double most = 0;
+    for (std::size_t first = 0; first + frame <= wave.size(); first += frame / 2) {
+        double sum = 0;
+        for (std::size_t i = first; i < first + frame; ++i)
+            sum += static_cast<double>(wave[i]) * wave[i];
+        most = std::max(most, 10 * std::log10(sum / frame)); // dB
+    }
+    return most;
+}
+
+// Whoever loses often hears five ends of a game, not one; and none is louder than the others.
+TEST(Waves, TheGameOversAreToldApartAndLevelled) {
+    constexpr sound set[] = {sound::gameover, sound::gameover1, sound::gameover2, sound::gameover3,
+                             sound::gameover4};
+    std::vector<imprint> heard;
+    double least = 1000, most = 0;
+    for (const sound wave : set) {
+        const auto samples = sounds::render(wave);
+        for (std::size_t i = 0; i < heard.size(); ++i)
+            EXPECT_GT(apart(imprint_of(samples), heard[i]), 0.33) << hustle::name(wave) << ' ' << i;
+        heard.push_back(imprint_of(samples));
+        least = std::min(least, loudest_moment(samples));
+        most = std::max(most, loudest_moment(samples));
+    }
+    EXPECT_LT(most - least, 2);
 }
 
 TEST(Waves, TheFileSaysWhatItHolds) {
