@@ -47,8 +47,8 @@ void draw_ring_centre(pen& p, int) {
          {area{14, 46, 77, 29}, area{14, 94, 77, 29}, area{14, 142, 53, 45}, area{14, 190, 77, 29},
           area{230, 46, 77, 29}, area{246, 94, 61, 29}, area{238, 142, 69, 29}, area{238, 190, 69, 29}})
         recess(p, a, 6);
-    moulding(p, {77, 221, 160, 46}, 4, 5);
-    box(p, 77, 221, 160, 46, 5, {.fill = down(p, {{0, "#1c0610"}, {1, "#4a0c14"}})});
+    moulding(p, {77, 222.5, 160, 44.5}, 2.5, 5);
+    box(p, 77, 222.5, 160, 44.5, 5, {.fill = down(p, {{0, "#1c0610"}, {1, "#4a0c14"}})});
     for (const double x : {128.5, 184.5})
         line(p, x, 225, x, 263, {.stroke = "#d8a03c", .width = 1, .stroke_opacity = 0.6});
     for (const double x : {32.0, 288.0}) {

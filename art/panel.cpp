@@ -156,11 +156,11 @@ void draw_reelframe(pen& p, int) {
                                 {1, "#1a0a04"}})});
     }
     for (const double x : {1.0, 464.0}) { // the win line
-        const double in = x < 100 ? 7.5 : -7.5;
-        path(p, polygon({{x, 148}, {x + in, 164}, {x, 180}}),
-             {.fill = across(p, {{0, "#ff5a5a"}, {0.5, "#e8142c"}, {1, "#ff5a5a"}}),
+        const double in = x < 100 ? 8.5 : -8.5;
+        path(p, polygon({{x, 136}, {x + in, 164}, {x, 192}}),
+             {.fill = down(p, {{0, "#ff8a5a"}, {0.5, "#ff1c34"}, {1, "#a00418"}}),
               .stroke = "#fff2b8",
-              .width = 1});
+              .width = 1.2});
     }
 }
 

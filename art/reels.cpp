@@ -40,8 +40,8 @@ void reel_glass(pen& p) {
          {.fill = ramp(p, {{0, ink::white, 0.28}, {1, ink::white, 0.02}}, 0, 0, 40, 60)});
     // The win line: a pair of hairs on the glass, above and below the middle row.
     for (const double y : {cell + 1.0, 2 * cell - 1.0}) {
-        box(p, 0, y - 0.8, reel_width, 1.6, 0, {.fill = "#b0182c", .fill_opacity = 0.5});
-        box(p, 0, y + 0.8, reel_width, 0.8, 0, {.fill = ink::white, .fill_opacity = 0.5});
+        box(p, 0, y - 1, reel_width, 2, 0, {.fill = "#c8102a", .fill_opacity = 0.8});
+        box(p, 0, y + 1, reel_width, 0.8, 0, {.fill = ink::white, .fill_opacity = 0.5});
     }
     for (const double x : {0.0, reel_width - 1.5})
         box(p, x, 0, 1.5, reel_height, 0, {.fill = "#1a0a04", .fill_opacity = 0.7});

@@ -137,15 +137,11 @@ void draw_square(pen& p, int which) {
               {.fill = on ? ink::white : std::string_view("#efe2c6"),
                .edge = on ? f.glass.deep : ink::black,
                .edge_width = 1.4,
-               .shape = {.weight = 0.19, .stretch = 1, .most = 50}});
+               .shape = {.weight = 0.19, .stretch = 1, .most = 47}});
     };
     const bool two = !f.lower.empty();
     {
-        const moved here(p, f.amount.empty() ? 32 : 44,
-                         f.upper.empty() ? 29
-                         : two           ? 18.5
-                                         : 22,
-                         two ? 0.84 : 1);
+        const moved here(p, f.amount.empty() ? 32 : 44, f.upper.empty() ? 29 : two ? 18 : 22, two ? 0.82 : 1);
         f.icon(p, on);
     }
     if (!on) // an unlit square lies in shade, icon and all: one sees from afar where the light stands
@@ -157,8 +153,8 @@ void draw_square(pen& p, int which) {
                .edge_width = 1.8,
                .shape = {.weight = 0.21, .stretch = 1, .most = 25}});
     if (two) {
-        words(f.upper, 31, 9.5);
-        words(f.lower, 42.5, 9.5);
+        words(f.upper, 29.8, 9.2);
+        words(f.lower, 40.8, 9.2);
     } else if (!f.upper.empty()) {
         words(f.upper, 39, 11);
     }

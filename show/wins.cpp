@@ -19,8 +19,9 @@ constexpr std::int64_t coin_gap_ms = 170;         // from one coin to the next
 constexpr std::int64_t reduced_coin_gap_ms = 800; // so that no point sees more than three in a second
 constexpr int picture_ms = 33;                    // a slow light needs no more than thirty pictures a second
 
-// Pixels of the panel: where coins start and where the bank's figures stand.
-constexpr double start_x = 352, start_y = 284, bank_x = 148, bank_y = 89;
+// Pixels of the panel: where coins start, and where they are gone, beneath the bank's figures, which
+// stay readable.
+constexpr double start_x = 352, start_y = 284, bank_x = 172, bank_y = 126;
 constexpr double spread = 150; // the coins leave all along the win line
 
 constexpr timer reel_chains[] = {timer::reelspin1, timer::reelspin2, timer::reelspin3,
@@ -58,13 +59,13 @@ void fly(coin& c, std::int64_t now) {
     const double from = start_of(c.born);
     c.x = from + (bank_x - from) * eased * eased;
     c.y = start_y + (bank_y - start_y) * eased;
-    c.opacity = std::min({1.0, u * 8, (1 - u) * 6});
+    c.opacity = std::min({1.0, u * 8, (1 - u) * 4});
 }
 
 } // namespace
 
 rect win_line_area() { return pixels(118, 222, 468, 124); }
-rect coin_area() { return pixels(128, 70, 448, 240); }
+rect coin_area() { return pixels(128, 106, 448, 204); }
 
 void take_in_win(stage& s, const game& g, std::int64_t now) {
     win_motion& w = s.win;

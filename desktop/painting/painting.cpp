@@ -6,6 +6,7 @@
 #include "show/places.h"
 
 #include <QLinearGradient>
+#include <QRadialGradient>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +17,8 @@ namespace {
 
 const QColor field_ground(14, 11, 18);
 const QColor field_rim(92, 78, 110);
+constexpr double ledger_letters = 12.3; // pixels: £1,234.50 is as large as £0.00
+constexpr double name_letters = 14.5;
 
 void draw_plain_label(canvas& c, const element_row& r, const element_state& state, const QString& text,
                       QRect box) {
@@ -30,14 +33,14 @@ void draw_plain_label(canvas& c, const element_row& r, const element_state& stat
     draw_text(c.painter, look, text);
 }
 
-void draw_field(canvas& c, const QString& text, QRect box) {
+void draw_field(canvas& c, const QString& text, QRect box, double largest) {
     const QRectF body = QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5);
     c.painter.setPen(QPen(field_rim, c.pixel));
     c.painter.setBrush(field_ground);
     c.painter.drawRoundedRect(body, 4 * c.pixel, 4 * c.pixel);
     lettering look;
     look.box = body.adjusted(5 * c.pixel, 0, -5 * c.pixel, 0);
-    look.largest = std::min(box.height() * 0.56, 15 * c.pixel);
+    look.largest = largest * c.pixel;
     look.fore = QColor(255, 232, 190);
     look.align = Qt::AlignLeft | Qt::AlignVCenter;
     draw_text(c.painter, look, text);
@@ -131,6 +134,18 @@ void draw_line(canvas& c, element e, const element_state& state, QRect box) {
 
 QColor ground_colour() { return {22, 13, 30}; }
 
+void draw_bare_form(canvas& c, screen s) {
+    if (s != screen::About && s != screen::reelguide)
+        return;
+    const auto to_device = [&](int twips) { return static_cast<int>(std::lround(twips / 15.0 * c.pixel)); };
+    const QRect form(c.origin, QSize(to_device(row(s).width), to_device(row(s).height)));
+    QRadialGradient light(form.center(), 0.6 * std::max(form.width(), form.height()));
+    light.setColorAt(0, QColor(70, 26, 96));
+    light.setColorAt(1, ground_colour());
+    c.painter.fillRect(form, light);
+    draw_gilt_edge(c, form);
+}
+
 QRect device_place(const panel& p, element e, double pixel, QPoint origin) {
     const rect place = seen_place(p, e);
     const auto to = [pixel](int twips) { return static_cast<int>(std::lround(twips / 15.0 * pixel)); };
@@ -168,7 +183,8 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
         if (e == element::Entername_Text2) // says what the box beside it is for
             draw_caption(c, QString::fromStdString(state.text), box);
         else
-            draw_field(c, QString::fromStdString(state.text).trimmed(), box);
+            draw_field(c, QString::fromStdString(state.text).trimmed(), box,
+                       r.where == screen::statistics ? ledger_letters : name_letters);
         break;
     case kind::push: draw_push(c, QString::fromStdString(state.text), box, pressed); break;
     case kind::frame:
@@ -190,13 +206,20 @@ void draw_win(canvas& c, const panel& p) {
     if (glow > 0.01) {
         const QRectF band = to_device(win_line_area());
         c.painter.setBrush(Qt::NoBrush);
-        for (int ring = 4; ring >= 0; --ring) { // light that fades from the frame inwards
-            QColor light = mix(QColor(255, 240, 150), QColor(255, 96, 0), 0.25 * ring);
-            light.setAlphaF(static_cast<float>(glow * (ring == 0 ? 1.0 : 0.75 - 0.15 * ring)));
-            const double in = (3 + 2.4 * ring) * c.pixel;
-            c.painter.setPen(QPen(light, (ring == 0 ? 3.2 : 2.6) * c.pixel));
+        constexpr int rings = 6; // light that fades from the frame inwards, seen on white
+        for (int ring = rings; ring >= 0; --ring) {
+            const double far = static_cast<double>(ring) / rings;
+            QColor light = mix(QColor(255, 72, 0), QColor(255, 190, 40), far);
+            light.setAlphaF(static_cast<float>(glow * (1 - 0.85 * far)));
+            const double in = (3 + 3 * ring) * c.pixel;
+            c.painter.setPen(QPen(light, (ring == 0 ? 3.6 : 3.2) * c.pixel));
             c.painter.drawRoundedRect(band.adjusted(in, in, -in, -in), 9 * c.pixel, 9 * c.pixel);
         }
+        QColor core(255, 244, 190); // a bright thread on the frame
+        core.setAlphaF(static_cast<float>(glow));
+        c.painter.setPen(QPen(core, 1.2 * c.pixel));
+        const double in = 3 * c.pixel;
+        c.painter.drawRoundedRect(band.adjusted(in, in, -in, -in), 9 * c.pixel, 9 * c.pixel);
     }
     const art face = p.dollars ? art::coinpic1 : art::coinpic;
     const int size = std::max(1, static_cast<int>(coin_size * c.pixel));

@@ -32,6 +32,9 @@ QColor ground_colour();
 // drawing serves all elements of one size.
 QRect device_place(const panel&, element, double pixel, QPoint origin);
 
+// The ground of a form that has no picture of its own behind it, in the cabinet's gilt edge; nothing
+// for any other.
+void draw_bare_form(canvas&, screen);
 void draw_element(canvas&, const panel&, element, QRect box, bool pressed);
 // What lies over all elements of main: the glow round the win line, and coins in flight.
 void draw_win(canvas&, const panel&);

@@ -24,6 +24,7 @@ QImage painted(const game& g, screen what, int width) {
     take_in(show, g, 0);
     advance(show, g, 0);
     desktop::canvas c{painter, pictures, dots, lamps, strips, show, pixel, {}};
+    desktop::draw_bare_form(c, what);
     for (const bool pictures_first : {true, false})
         for (const element_row& r : elements_of(what))
             if ((r.what == kind::picture) == pictures_first)

@@ -124,6 +124,7 @@ void screenview::paintEvent(QPaintEvent* event) {
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
     canvas c{painter, pictures, dots, lamps, strips, played.show, scale, origin};
+    draw_bare_form(c, what);
     const QRegion& region = event->region();
     for (const bool pictures_first : {true, false}) { // no picture covers what can be pressed or read
         if (!pictures_first)
