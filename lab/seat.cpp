@@ -77,11 +77,13 @@ void press(seat& s) {
 
 void look(seat& s) {
     const std::int64_t now = s.g.p.now;
-    if (now - s.last_play > std::int64_t{s.t.patience} * 60'000) {
+    if (now - s.last_play > s.patience) {
         s.stuck = true;
         return;
     }
-    const move m = policies()[static_cast<std::size_t>(s.t.policy)].play(sight(s.g), s.player);
+    const move m = s.policy(sight(s.g), s.player);
+    if (m.press == no_press)
+        return;
     s.next_press = m.press;
     s.press_at = now + m.after + s.t.reaction;
 }
@@ -105,6 +107,8 @@ std::string first_file(const terms& t) {
 
 void sit_down(seat& s, const terms& t, int machine, int stream, std::string* script) {
     s.t = t;
+    s.policy = policies()[static_cast<std::size_t>(t.policy)].play;
+    s.patience = std::int64_t{t.patience} * 60'000;
     s.machine = machine;
     s.stream = stream;
     s.player = {};

@@ -64,8 +64,10 @@ struct seat {
     labworld world;
     game g{world};
     terms t;
-    int machine = 0; // its number in the run
-    int stream = 0;  // 0: the machine that counts; from 1: its ways home
+    decltype(policy_row::play) policy = nullptr; // of the terms
+    std::int64_t patience = 0;                   // ms on the machine's clock
+    int machine = 0;                             // its number in the run
+    int stream = 0;                              // 0: the machine that counts; from 1: its ways home
     memory player;
     watch seen;
     before was;

@@ -8,13 +8,6 @@ namespace hustle {
 
 namespace {
 
-template <class Value> void change(element_state& e, Value element_state::*what, Value value) {
-    if (e.*what == value)
-        return;
-    e.*what = value;
-    e.touched = true;
-}
-
 void store_element(panel& p, const element_row& r) {
     element_state& e = at(p, r.id);
     e.text = r.text;
@@ -81,21 +74,14 @@ void reset_panel(panel& p) {
         p.intervals[t] = row(static_cast<timer>(t)).interval;
 }
 
-void set_picture(panel& p, element e, art a) { change(at(p, e), &element_state::picture, a); }
-void set_back(panel& p, element e, colour c) { change(at(p, e), &element_state::back, c); }
-void set_fore(panel& p, element e, colour c) { change(at(p, e), &element_state::fore, c); }
-void set_activecolor(panel& p, element e, colour c) { change(at(p, e), &element_state::activecolor, c); }
-void set_lineflash(panel& p, element e, bool on) { change(at(p, e), &element_state::lineflash, on); }
-void set_checked(panel& p, element e, bool on) { change(at(p, e), &element_state::checked, on); }
-void set_enabled(panel& p, element e, bool on) { change(at(p, e), &element_state::enabled, on); }
-void set_visible(panel& p, element e, bool on) { change(at(p, e), &element_state::visible, on); }
-void set_top(panel& p, element e, int top) { change(at(p, e), &element_state::top, top); }
-
 void set_caption(panel& p, element e, std::string_view text) {
     element_state& state = at(p, e);
-    if (state.text == text)
+    if (state.text.size() != text.size())
+        state.text = text;
+    else if (state.text != text) // most often a line whose figures have changed
+        std::copy(text.begin(), text.end(), state.text.begin());
+    else
         return;
-    state.text = text;
     state.touched = true;
 }
 
@@ -123,13 +109,6 @@ void set_interval(panel& p, timer t, int ms) {
         return;
     disarm(p, t);
     arm(p, t, p.now + ms);
-}
-
-bool next_due(const panel& p, std::int64_t& due) {
-    if (p.queued == 0)
-        return false;
-    due = p.queue[0].due;
-    return true;
 }
 
 bool take_tick(panel& p, std::int64_t until, timer& which) {

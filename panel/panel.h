@@ -67,16 +67,23 @@ void reset_panel(panel&);
 // Elements. All are immediate and cannot fail.
 inline element_state& at(panel& p, element e) { return p.elements[static_cast<std::size_t>(e)]; }
 inline const element_state& at(const panel& p, element e) { return p.elements[static_cast<std::size_t>(e)]; }
-void set_picture(panel&, element, art);
+template <class Value> void change(panel& p, element id, Value element_state::*what, Value value) {
+    element_state& e = at(p, id);
+    if (e.*what == value)
+        return;
+    e.*what = value;
+    e.touched = true;
+}
+inline void set_picture(panel& p, element e, art a) { change(p, e, &element_state::picture, a); }
+inline void set_back(panel& p, element e, colour c) { change(p, e, &element_state::back, c); }
+inline void set_fore(panel& p, element e, colour c) { change(p, e, &element_state::fore, c); }
+inline void set_activecolor(panel& p, element e, colour c) { change(p, e, &element_state::activecolor, c); }
+inline void set_lineflash(panel& p, element e, bool on) { change(p, e, &element_state::lineflash, on); }
+inline void set_checked(panel& p, element e, bool on) { change(p, e, &element_state::checked, on); }
+inline void set_enabled(panel& p, element e, bool on) { change(p, e, &element_state::enabled, on); }
+inline void set_visible(panel& p, element e, bool on) { change(p, e, &element_state::visible, on); }
+inline void set_top(panel& p, element e, int twips) { change(p, e, &element_state::top, twips); }
 void set_caption(panel&, element, std::string_view);
-void set_back(panel&, element, colour);
-void set_fore(panel&, element, colour);
-void set_activecolor(panel&, element, colour);
-void set_lineflash(panel&, element, bool);
-void set_checked(panel&, element, bool);
-void set_enabled(panel&, element, bool);
-void set_visible(panel&, element, bool);
-void set_top(panel&, element, int twips);
 void set_title(panel&, screen, std::string_view);
 inline void enable(panel& p, element e) { set_enabled(p, e, true); }
 inline void disable(panel& p, element e) { set_enabled(p, e, false); }
@@ -98,7 +105,12 @@ inline bool is_running(const panel& p, timer t) { return p.running[static_cast<s
 inline int interval(const panel& p, timer t) { return p.intervals[static_cast<std::size_t>(t)]; }
 
 // When the next tick falls due; false when no timer runs.
-bool next_due(const panel&, std::int64_t& due);
+inline bool next_due(const panel& p, std::int64_t& due) {
+    if (p.queued == 0)
+        return false;
+    due = p.queue[0].due;
+    return true;
+}
 // Takes the next tick that is due at `until` or before: moves the clock on to it, arms the timer
 // again and names it in `which`. False when there is none.
 bool take_tick(panel&, std::int64_t until, timer& which);

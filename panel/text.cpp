@@ -41,13 +41,10 @@ short_text two_decimals(std::string_view number) {
     return result;
 }
 
-// Writes a number that is not negative, with at least so many digits.
-void add_digits(short_text& text, unsigned number, int least = 1) {
-    char digits[10];
-    int from = 10;
-    for (; number > 0 || from > 10 - least; number /= 10)
-        digits[--from] = static_cast<char>('0' + number % 10);
-    text.add({digits + from, static_cast<std::size_t>(10 - from)});
+void add_digits(short_text& text, unsigned number) {
+    char* const end = text.data.data() + text.data.size() - 1;
+    text.length = static_cast<std::size_t>(std::to_chars(text.data.data() + text.length, end, number).ptr -
+                                           text.data.data());
 }
 
 // "Fixed" form of an amount below a thousand that lies clearly nearer to one penny than to the next:
@@ -62,8 +59,9 @@ bool whole_pence(float amount, short_text& text) {
     if (amount < 0 && nearest > 0)
         text.add("-");
     add_digits(text, nearest / 100);
-    text.add(".");
-    add_digits(text, nearest % 100, 2);
+    const char pence_digits[] = {'.', static_cast<char>('0' + nearest % 100 / 10),
+                                 static_cast<char>('0' + nearest % 10)};
+    text.add({pence_digits, 3});
     return true;
 }
 
@@ -87,19 +85,6 @@ signed_amount amount_of(float amount) {
 
 } // namespace
 
-short_text& short_text::add(std::string_view text) {
-    const std::size_t room = std::min(text.size(), data.size() - 1 - length);
-    std::copy_n(text.data(), room, data.data() + length);
-    length += room;
-    return *this;
-}
-
-short_text& short_text::blanks(int n) {
-    for (; n > 0; --n)
-        add(" ");
-    return *this;
-}
-
 short_text plain(float value) {
     short_text text;
     if (value >= 0 && value < 1e6F && value == static_cast<float>(static_cast<unsigned>(value))) {
@@ -109,7 +94,11 @@ short_text plain(float value) {
     const auto [end, error] = std::to_chars(text.data.data(), text.data.data() + text.data.size() - 1, value,
                                             std::chars_format::fixed);
     text.length = static_cast<std::size_t>(end - text.data.data());
-    return std::string_view(text) == "-0" ? short_text("0") : text;
+    if (std::string_view(text) == "-0") {
+        text.length = 0;
+        text.add("0");
+    }
+    return text;
 }
 
 short_text plain(int value) {
@@ -142,11 +131,12 @@ std::optional<float> number_at(std::string_view text, std::string_view& rest) {
 }
 
 short_text fixed(float amount) {
-    if (short_text text; whole_pence(amount, text))
-        return text;
-    const signed_amount parts = amount_of(amount);
-    short_text text(parts.sign);
-    return text.add(parts.size);
+    short_text text;
+    if (!whole_pence(amount, text)) {
+        const signed_amount parts = amount_of(amount);
+        text.add(parts.sign).add(parts.size);
+    }
+    return text;
 }
 
 short_text uk_currency(float amount) {

@@ -1,6 +1,7 @@
 // Text of figures, made without allocating.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -16,8 +17,18 @@ struct short_text {
     short_text() {} // NOLINT: `data` is written before it is read
     short_text(std::string_view text) { add(text); }
     operator std::string_view() const { return {data.data(), length}; }
-    short_text& add(std::string_view text);
-    short_text& blanks(int n); // none where n is 0 or below
+    std::size_t room(std::size_t wanted) const { return std::min(wanted, data.size() - 1 - length); }
+    short_text& add(std::string_view text) {
+        length = static_cast<std::size_t>(std::copy_n(text.data(), room(text.size()), data.data() + length) -
+                                          data.data());
+        return *this;
+    }
+    short_text& blanks(int n) { // none where n is 0 or below
+        if (n > 0)
+            length = static_cast<std::size_t>(
+                std::fill_n(data.data() + length, room(static_cast<std::size_t>(n)), ' ') - data.data());
+        return *this;
+    }
 };
 
 // "Fixed" form: two decimals, at least one digit before the point, no currency sign: "3.60".

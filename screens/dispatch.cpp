@@ -84,7 +84,7 @@ bool run_focus(game& g, const focus_event& event) {
     return true;
 }
 
-void settle(game& g) {
+void run_waiting_focus(game& g) {
     focus_event event{};
     while (take_focus_event(g.p, event))
         run_focus(g, event);

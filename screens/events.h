@@ -12,7 +12,11 @@ bool apply_alone(game&, const input&);
 void run_tick(game&, timer);
 // One change of focus; false when the screen has no such handler or is gone.
 bool run_focus(game&, const focus_event&);
-// All waiting changes of focus.
-void settle(game&);
+// All waiting changes of focus. Hardly a tick causes one, and all ask.
+void run_waiting_focus(game&);
+inline void settle(game& g) {
+    if (g.p.focus_waiting > 0)
+        run_waiting_focus(g);
+}
 
 } // namespace hustle

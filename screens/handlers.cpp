@@ -158,10 +158,13 @@ const screen_routines& routines(screen s) { return screens[static_cast<std::size
 handler tick_handler(timer t) { return ticks[static_cast<std::size_t>(t)]; }
 
 handler press_handler(element e) {
-    for (const press_row& r : presses)
-        if (r.id == e)
-            return r.act;
-    return nullptr;
+    static constexpr auto acts = [] {
+        std::array<handler, element_count> by_element{};
+        for (const press_row& r : presses)
+            by_element[static_cast<std::size_t>(r.id)] = r.act;
+        return by_element;
+    }();
+    return acts[static_cast<std::size_t>(e)];
 }
 
 bool keypress(game& g, screen s, int code) {
