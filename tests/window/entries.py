@@ -5,35 +5,21 @@ Usage: entries.py HOARDHUSTLE HUSTLESCRIPT
 """
 
 import os
-import sys
-import time
 
 from window import BOARD, Machine, ask, near, run
 
-PROGRAM, SCRIPT = sys.argv[1:3]
-TO_THE_BOARD = 12  # seconds from Start to the open board
-TO_THE_COUNT = 7   # seconds from Collect to the middle of the count, its whole-pound bonus included
+TO_THE_BOARD = 12000  # ms from Start to the open board
 COLLECT = (68, 531)
 
 
 def seed_with_mixed_sevens():
     """A first play that makes a line of 1.60, which is topped up to 2.00 when it is collected."""
     for seed in range(1, 2000):
-        told = ask(SCRIPT, f"seed {seed}\npress main.start\nrun {TO_THE_BOARD * 1000}\n"
+        told = ask(f"seed {seed}\npress main.start\nrun {TO_THE_BOARD}\n"
                    "get feature.loaded featuremode win\n")
         if (told["feature.loaded"], told["featuremode"], told["win"]) == ("true", "hilo", "1.6"):
             return seed
     raise AssertionError("no seed makes a line of mixed sevens")
-
-
-def click_in(machine, title, across, down):
-    """A click in a window of its own, at shares of its width and height."""
-    window = machine.window(title)
-    shape = dict(part.split("=") for part in machine.xdo("getwindowgeometry", "--shell", window))
-    x = int(shape["X"]) + int(shape["WIDTH"]) * across
-    y = int(shape["Y"]) + int(shape["HEIGHT"]) * down
-    machine.xdo("mousemove", round(x), round(y), "click", 1)
-    time.sleep(0.15)
 
 
 def options(machine):
@@ -41,8 +27,7 @@ def options(machine):
         machine.menu("o", letter)
     for letter in "pd":  # the currency asks for a restart
         machine.menu("o", letter)
-        machine.window("^Hoard Hustle$")
-        machine.key("Return")
+        machine.key_in("^Hoard Hustle$", "Return")
         machine.gone("^Hoard Hustle$")
     machine.menu("o", "g")
     machine.menu("o", "r")
@@ -51,8 +36,7 @@ def options(machine):
 def guides(machine):
     for letter, title in (("r", "Reel Guide"), ("w", "Win Guide"), ("a", "About")):
         machine.menu("h", letter)
-        machine.front(machine.window(title))
-        machine.key("Escape")
+        machine.key_in(title, "Escape")
         machine.gone(title)
     for letter, page in (("o", "index.html"), ("v", "home.html")):
         machine.menu("h", letter)
@@ -62,15 +46,14 @@ def guides(machine):
 
 def insert_a_coin(machine):
     machine.menu("g", "i")
-    machine.window("Nothing in Bank")
-    machine.key("Return")
+    machine.key_in("Nothing in Bank", "Return")
     machine.gone("Nothing in Bank")
 
 
 def wipe_the_table(machine):
     machine.menu("g", "v")
     machine.front(machine.window("HighScores"))
-    click_in(machine, "HighScores", 5617 / 7785, 5797 / 6300)  # Reset
+    machine.click_in("HighScores", 5617 / 7785, 5797 / 6300)  # Reset
     machine.key("Escape")
     machine.gone("HighScores")
 
@@ -78,33 +61,29 @@ def wipe_the_table(machine):
 def refill_in_a_payout(machine):
     machine.front(machine.main)
     machine.key("space")
-    time.sleep(TO_THE_BOARD)
+    machine.until(feature__loaded="true", feature__collect__enabled="true")
     machine.click(*COLLECT, BOARD)
+    machine.until(feature__loaded="false")  # the count begins
     machine.menu("g", "r")
-    machine.front(machine.window("Statistics Screen"))
-    time.sleep(TO_THE_COUNT - 1.5)
-    click_in(machine, "Statistics Screen", 260 / 368, 249 / 283)  # Reset
-    machine.window("Reset Machine Statistics")
-    machine.key("alt+y")
+    machine.window("Statistics Screen")
+    machine.click_in("Statistics Screen", 260 / 368, 249 / 283)  # Reset
+    machine.key_in("Reset Machine Statistics", "alt+y")
     machine.gone("Reset Machine Statistics")
-    time.sleep(4)
+    machine.until(moneyin="100", bank="2", main__wintobank__running="false")
 
 
 def leave_with_a_name(machine):
     machine.menu("g", "e")
-    machine.front(machine.window("Enter Your Name"))
-    machine.key("Return")
+    machine.key_in("Enter Your Name", "Return")
     machine.gone("Enter Your Name")
-    machine.front(machine.window("HighScores"))
-    machine.key("Tab")
-    machine.key("Return")
+    machine.key_in("HighScores", "Tab", "Return")
     machine.end()
 
 
 def everything(display, folder):
     with open(os.path.join(folder, "hscore.dat"), "w", newline="", encoding="utf-8") as file:
         file.write("40\r\n" * 10 + '"          NOBODY"\r\n' * 10)
-    machine = Machine(PROGRAM, display, seed_with_mixed_sevens(), folder)
+    machine = Machine(display, seed_with_mixed_sevens(), folder)
     try:
         insert_a_coin(machine)
         wipe_the_table(machine)

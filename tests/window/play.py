@@ -6,63 +6,62 @@ Usage: play.py HOARDHUSTLE HUSTLESCRIPT
 
 import os
 import subprocess
-import sys
-import time
 
-from window import Machine, ask, near, run
+from window import PROGRAM, Machine, ask, near, run
 
-PROGRAM, SCRIPT = sys.argv[1:3]
-ONE_PLAY = 7  # seconds: a play on the fast reels is over, with its trail run
+ONE_PLAY = 7000  # ms: a play on the fast reels is over, with its trail run
+AT_REST = {"main.start.enabled": "true", "main.stopper.enabled": "false", "main.numbers2.running": "false",
+           "main.reelspin3.running": "false"}
 
 
 def seed_with_holds():
     """A first play that ends in a hold offer, and nothing else going on."""
     for seed in range(1, 200):
-        told = ask(SCRIPT, f"seed {seed}\npress main.start\nrun {ONE_PLAY * 1000}\n"
-                   "get holdsoffered nudges main.start.enabled main.stopper.enabled reel1pos\n")
-        if (told["holdsoffered"], told["nudges"], told["main.start.enabled"],
-                told["main.stopper.enabled"]) == ("yes", "0", "true", "false"):
-            return seed, told["reel1pos"]
+        told = ask(f"seed {seed}\npress main.start\nrun {ONE_PLAY}\n"
+                   "get holdsoffered nudges reel1pos " + " ".join(AT_REST) + "\n")
+        first_stop = told.pop("reel1pos")
+        if told == {"holdsoffered": "yes", "nudges": "0", **AT_REST}:
+            return seed, first_stop
     raise AssertionError("no seed offers a hold")
+
+
+def at_rest():
+    return {name.replace(".", "__"): value for name, value in AT_REST.items()}
 
 
 def play(display, folder):
     seed, first_stop = seed_with_holds()
-    machine = Machine(PROGRAM, display, seed, folder)
+    machine = Machine(display, seed, folder)
     try:
         machine.key("space")
-        time.sleep(ONE_PLAY)
+        machine.until(credits="19", holdsoffered="yes", **at_rest())
         machine.key("1")  # hold reel 1
+        machine.until(reel1held="yes")
         machine.key("space")
-        time.sleep(0.5)
-
         machine.click(350, 250)  # reel 2, while it spins: the guide opens and play goes on
         machine.window("Reel Guide")
-        time.sleep(ONE_PLAY)
-        machine.xdo("windowfocus", "--sync", machine.window("Reel Guide"))
-        machine.key("Escape")
+        machine.until(credits="18", reelguide__loaded="true", **at_rest())
+        machine.key_in("Reel Guide", "Escape")
         machine.gone("Reel Guide")
 
         machine.front(machine.main)
         machine.click(777, 28)  # transfer, with nothing in the bank
-        machine.window("Nothing in Bank")
-        machine.key("space")  # closes the box, and starts nothing
+        machine.key_in("Nothing in Bank", "space")  # closes the box, and starts nothing
         machine.gone("Nothing in Bank")
         machine.front(machine.main)
         machine.key("0")  # the same by key
-        machine.window("Nothing in Bank")
-        machine.key("Escape")
+        machine.key_in("Nothing in Bank", "Escape")
         machine.gone("Nothing in Bank")
 
         machine.menu("o", "s")  # Slow Reelspin
+        machine.until(reelspeed="2")
         machine.menu("h", "w")  # Wins
-        machine.xdo("windowfocus", "--sync", machine.window("Win Guide"))
-        machine.key("Escape")
+        machine.key_in("Win Guide", "Escape")
         machine.gone("Win Guide")
         machine.menu("g", "n")  # New, and No
-        machine.window("Begin New Game")
-        machine.key("Escape")
+        machine.key_in("Begin New Game", "Escape")
         machine.gone("Begin New Game")
+        machine.until(credits="18")
         machine.menu("g", "e")  # Exit
         machine.end()
     finally:
@@ -83,11 +82,9 @@ def restart(display, folder, before):
     """The second run reads what the first one wrote, and a damaged file is told and kept."""
     with open(os.path.join(folder, "hscore.dat"), "w", encoding="utf-8") as file:
         file.write("nonsense\r\n")
-    machine = Machine(PROGRAM, display, 1, folder, wait_for_main=False)
+    machine = Machine(display, 1, folder, wait_for_main=False)
     try:
-        machine.window("Hoard Hustle")  # the box comes before the machine
-        time.sleep(0.3)
-        machine.key("Return")
+        machine.key_in("^Hoard Hustle$", "Return")  # the box comes before the machine
         machine.await_main()
         machine.menu("g", "e")
         machine.end()
@@ -101,7 +98,7 @@ def restart(display, folder, before):
 def without_a_display():
     bare = {name: value for name, value in os.environ.items()
             if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
-    done = subprocess.run([PROGRAM], env=bare, capture_output=True, text=True, timeout=10)
+    done = subprocess.run([PROGRAM], env=bare, capture_output=True, text=True, timeout=60)
     assert done.returncode == 1 and "needs a screen" in done.stderr, done.stderr
 
 

@@ -10,10 +10,9 @@ import subprocess
 import sys
 import time
 
-from window import Machine, run
+from window import SCRIPT, Machine, run
 
-PROGRAM, SCRIPT = sys.argv[1:3]
-SECONDS = float(sys.argv[3]) if len(sys.argv) > 3 else 40
+SECONDS = float(sys.argv[3]) if len(sys.argv) > 3 else 20
 KEYS = ["space"] * 6 + ["1", "2", "3", "0", "c", "Escape", "Return", "Tab", "F1"]
 MENUS = ["v", "r", "i", "n"]  # of Game: the table, the refill, a coin, a new game
 
@@ -50,7 +49,7 @@ def replay(path):
 def record(display, folder):
     seed = int(os.environ.get("SEED", "5"))  # of the presses; their times are the real clock's
     print(f"seed {seed}")
-    machine = Machine(PROGRAM, display, seed, folder)
+    machine = Machine(display, seed, folder)
     session = os.path.join(folder, "session.txt")
     try:
         play_at_random(machine, random.Random(seed))
@@ -62,7 +61,7 @@ def record(display, folder):
         os.replace(session, "failed-session.txt")  # in the folder of the test, to be looked at
         raise
 
-    machine = Machine(PROGRAM, display, 1, folder)  # the one before is kept
+    machine = Machine(display, 1, folder)  # the one before is kept
     machine.stop()
     assert os.path.exists(os.path.join(folder, "session-before.txt"))
 

@@ -4,26 +4,22 @@ score, names it, and finds it in the table after a restart.
 Usage: win.py HOARDHUSTLE HUSTLESCRIPT
 """
 
-import sys
-import time
-
 from window import BOARD, Machine, ask, near, run
 
-PROGRAM, SCRIPT = sys.argv[1:3]
-TO_THE_BOARD = 12  # seconds from Start to the open board
-ONE_ROLL = 6       # seconds of a gamble, its climb and its words
+TO_THE_BOARD = 12000  # ms from Start to the open board
+ONE_ROLL = 6000       # ms of a gamble, its climb and its words
 BUTTONS = {"hibutton": (68, 192), "lobutton": (116, 192), "collect": (68, 531)}
 
 
 def winning_gamble():
     """A seed whose first play makes a line, and the call that wins the first gamble on it."""
     for seed in range(1, 1000):
-        opened = f"seed {seed}\npress main.start\nrun {TO_THE_BOARD * 1000}\n"
-        told = ask(SCRIPT, opened + "get feature.loaded featuremode win\n")
+        opened = f"seed {seed}\npress main.start\nrun {TO_THE_BOARD}\n"
+        told = ask(opened + "get feature.loaded featuremode win\n")
         if (told["feature.loaded"], told["featuremode"]) != ("true", "hilo"):
             continue
         for call in ("hibutton", "lobutton"):
-            rolled = ask(SCRIPT, opened + f"press feature.{call}\nrun {ONE_ROLL * 1000}\n"
+            rolled = ask(opened + f"press feature.{call}\nrun {ONE_ROLL}\n"
                          "get feature.loaded win feature.collect.enabled\n")
             prize = float(rolled["win"])
             if rolled["feature.loaded"] == "true" and prize > float(told["win"]) and prize > 1.99:
@@ -34,25 +30,24 @@ def winning_gamble():
 def win_and_leave(display, folder):
     seed, call, prize = winning_gamble()
     print(f"seed {seed}: {call} to {prize:.2f}")
-    machine = Machine(PROGRAM, display, seed, folder)
+    machine = Machine(display, seed, folder)
     try:
         machine.click(742, 504)  # Start, by mouse
-        time.sleep(TO_THE_BOARD)
+        machine.until(feature__loaded="true", **{f"feature__{call}__enabled": "true"})
         machine.click(*BUTTONS[call], BOARD)
-        time.sleep(ONE_ROLL)
+        machine.until(win=prize, feature__collect__enabled="true")
         machine.click(*BUTTONS["collect"], BOARD)
-        time.sleep(6 + prize / 0.2 * 0.06)  # the board closes, the money is counted
+        # The board closes, the money is counted.
+        machine.until(bank=prize, main__wintobank__running="false", main__start__enabled="true")
         machine.click(777, 28)  # a transfer: a pound becomes four credits
-        time.sleep(1)
+        machine.until(bank=prize - 1, credits="23")
 
         machine.menu("g", "e")
         machine.front(machine.window("Enter Your Name"))
-        machine.xdo("type", "--delay", "40", "ROBIN HOOD")
+        machine.xdo("type", "ROBIN HOOD")
         machine.key("Return")
         machine.gone("Enter Your Name")
-        machine.front(machine.window("HighScores"))
-        machine.key("Tab")  # the Exit button, by keyboard
-        machine.key("Return")
+        machine.key_in("HighScores", "Tab", "Return")  # the Exit button, by keyboard
         machine.end()
     finally:
         machine.stop()
@@ -67,11 +62,10 @@ def win_and_leave(display, folder):
 
 def restart(display, folder, table):
     """The table is there, can be looked at by keyboard, and outlives the second run."""
-    machine = Machine(PROGRAM, display, 1, folder)
+    machine = Machine(display, 1, folder)
     try:
         machine.menu("g", "v")
-        machine.front(machine.window("HighScores"))
-        machine.key("Escape")
+        machine.key_in("HighScores", "Escape")
         machine.gone("HighScores")
         machine.menu("g", "e")
         machine.end()

@@ -1,7 +1,9 @@
 """A display, a program and a hand: what the tests of the real window share.
 
-Everything goes through the X server, as a player's keys and clicks do. Exit status 77 skips the
-test where there is no Xvfb or no xdotool.
+Everything goes through the X server, as a player's keys and clicks do. What the machine is at, a test
+learns from the session that the window writes while it is played: replayed by the script runner, it
+stands as the window stood at its last whole second. So nothing here waits for a time by the wall.
+Exit status 77 skips the test where there is no Xvfb or no xdotool.
 """
 
 import os
@@ -12,8 +14,10 @@ import tempfile
 import time
 import urllib.parse
 
+PROGRAM, SCRIPT = sys.argv[1:3]
 PANEL = (800, 562)  # pixels of main
 BOARD = (800, 593)
+PATIENCE = 60  # seconds, on however busy a machine
 
 
 def skip_without_tools():
@@ -48,12 +52,13 @@ class Display:
 class Machine:
     """The program in its window, with a folder of its own for the two files."""
 
-    def __init__(self, program, display, seed, folder, wait_for_main=True):
+    def __init__(self, display, seed, folder, wait_for_main=True):
         self.env = dict(os.environ, DISPLAY=display.name, HUSTLE_DATA=folder, HUSTLE_SEED=str(seed),
                         SDL_AUDIODRIVER="dummy", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
                         QT_SCALE_FACTOR="1", PATH=self.browser(folder) + os.pathsep + os.environ["PATH"])
         self.folder = folder
-        self.process = subprocess.Popen([program, "--full-flashing"], env=self.env)
+        self.session = os.path.join(folder, "session.txt")
+        self.process = subprocess.Popen([PROGRAM, "--full-flashing"], env=self.env)
         if wait_for_main:
             self.await_main()
 
@@ -68,9 +73,48 @@ class Machine:
         os.chmod(path, 0o755)
         return programs
 
+    def wait(self, what, look):
+        """Looks until there is something to be seen, and gives it."""
+        end = time.time() + PATIENCE
+        while time.time() < end:
+            assert self.process.poll() is None, f"the program ended while it should come to this: {what}"
+            seen = look()
+            if seen:
+                return seen
+            time.sleep(0.05)
+        raise AssertionError(f"in vain: {what}")
+
     def await_main(self):
         self.main = self.window("Hoard Hustle v")
-        time.sleep(0.5)
+        self.wait("main stands", lambda: "\nboot\n" in self.told())
+
+    def told(self):
+        """The session as it is written down by now, in whole lines."""
+        if not os.path.exists(self.session):
+            return ""
+        with open(self.session, encoding="utf-8") as file:
+            text = file.read()
+        return text[:text.rfind("\n") + 1]
+
+    def state(self, *names):
+        """The values that these names had at the last whole second."""
+        return ask(self.told() + "get " + " ".join(names) + "\n")
+
+    def until(self, **wanted):
+        """Waits until names have these values; a dot in a name is written as two underlines."""
+        wanted = {name.replace("__", "."): value for name, value in wanted.items()}
+        before, last = None, {}
+
+        def look():
+            nonlocal before, last
+            text = self.told()
+            if text != before:
+                before, last = text, self.state(*wanted)
+            return all(same(last.get(name, ""), value) for name, value in wanted.items())
+        try:
+            self.wait(str(wanted), look)
+        except AssertionError as vain:
+            raise AssertionError(f"{vain}; it was {last} after\n{before[-300:]}") from None
 
     def xdo(self, *words):
         done = subprocess.run(["xdotool", *map(str, words)], env=self.env, capture_output=True, text=True)
@@ -79,69 +123,68 @@ class Machine:
     def find(self, title):
         return self.xdo("search", "--onlyvisible", "--name", title)
 
-    def window(self, title, seconds=20):
+    def window(self, title):
         """Waits for a window whose title holds the text."""
-        end = time.time() + seconds
-        while time.time() < end:
-            assert self.process.poll() is None, f"the program ended while {title!r} was awaited"
-            found = self.find(title)
-            if found:
-                return found[0]
-            time.sleep(0.05)
-        raise AssertionError(f"no window {title!r}")
+        return self.wait(f"the window {title!r}", lambda: self.find(title))[0]
 
-    def gone(self, title, seconds=10):
+    def gone(self, title):
         """Waits until no window has the title."""
-        end = time.time() + seconds
-        while time.time() < end:
-            if not self.find(title):
-                return
-            time.sleep(0.05)
-        raise AssertionError(f"the window {title!r} is still there")
+        self.wait(f"no window {title!r}", lambda: not self.find(title))
 
-    def key(self, name):
-        self.xdo("key", name)
-        time.sleep(0.15)
+    def front(self, window):
+        """Gives a window the keys; those that follow are its own, for they queue up behind the focus."""
+        self.xdo("windowfocus", window)
+        self.wait("the keys go to the window", lambda: self.xdo("getwindowfocus", "-f") == [window])
+
+    def key(self, *names):
+        self.xdo("key", *names)
+
+    def key_in(self, title, *names):
+        """Keys for a window that comes up by itself."""
+        self.front(self.window(title))
+        self.key(*names)
 
     def menu(self, menu, entry):
         """Opens a menu by Alt and its letter, and takes an entry by its letter."""
         self.front(self.main)
-        self.key("alt+" + menu)
-        time.sleep(0.2)
-        self.key(entry)
+        self.key("alt+" + menu, entry)
 
-    def front(self, window):
-        self.xdo("windowfocus", "--sync", window)
-        time.sleep(0.2)
+    def click_at(self, window, place):
+        """A click on the point of a window that `place` tells from its width and height."""
+        shape = dict(part.split("=") for part in self.xdo("getwindowgeometry", "--shell", window))
+        left, top, width, height = (int(shape[n]) for n in ("X", "Y", "WIDTH", "HEIGHT"))
+        x, y = place(width, height)
+        self.xdo("mousemove", round(left + x), round(top + y), "click", 1)
 
     def click(self, x, y, panel=PANEL):
         """A click on a point of main or of the board, in panel pixels."""
-        shape = dict(part.split("=") for part in self.xdo("getwindowgeometry", "--shell", self.main))
-        left, top, width, height = (int(shape[n]) for n in ("X", "Y", "WIDTH", "HEIGHT"))
-        # Main fills the window beneath the menu bar; the board is fitted into the same room.
-        room = width * PANEL[1] / PANEL[0]
-        scale = min(width / panel[0], room / panel[1])
-        x = left + (width - panel[0] * scale) / 2 + x * scale
-        y = top + height - room + (room - panel[1] * scale) / 2 + y * scale
-        self.xdo("mousemove", round(x), round(y), "click", 1)
-        time.sleep(0.15)
+        def place(width, height):
+            # Main fills the window beneath the menu bar; the board is fitted into the same room.
+            room = width * PANEL[1] / PANEL[0]
+            scale = min(width / panel[0], room / panel[1])
+            return ((width - panel[0] * scale) / 2 + x * scale,
+                    height - room + (room - panel[1] * scale) / 2 + y * scale)
+        self.click_at(self.main, place)
 
-    def page_opened(self, page, seconds=10):
+    def click_in(self, title, across, down):
+        """A click in a window of its own, at shares of its width and height."""
+        self.click_at(self.window(title), lambda width, height: (width * across, height * down))
+
+    def page_opened(self, page):
         """Waits until the browser has been sent to a page of that name, and gives its file."""
         pages = os.path.join(self.folder, "pages.txt")
-        end = time.time() + seconds
-        while time.time() < end:
-            if os.path.exists(pages):
-                with open(pages, encoding="utf-8") as file:
-                    for address in file.read().split():
-                        if address.endswith(page):
-                            return urllib.parse.unquote(address.removeprefix("file://"))
-            time.sleep(0.05)
-        raise AssertionError(f"no browser was sent to {page}")
 
-    def end(self, seconds=10):
+        def look():
+            if not os.path.exists(pages):
+                return None
+            with open(pages, encoding="utf-8") as file:
+                found = [address for address in file.read().split() if address.endswith(page)]
+            return found and urllib.parse.unquote(found[0].removeprefix("file://"))
+        return self.wait(f"a browser is sent to {page}", look)
+
+    def end(self):
         """Waits for the program's own end, which must be a good one."""
-        status = self.process.wait(timeout=seconds)
+        status = self.process.wait(timeout=PATIENCE)
         assert status == 0, f"the program ended with {status}"
 
     def stop(self):
@@ -157,15 +200,23 @@ class Machine:
         return text[:-2].split("\r\n")
 
 
-def ask(script_program, text):
+def ask(text):
     """What the panel script answers: the same machine, without a window."""
-    done = subprocess.run([script_program], input=text, capture_output=True, text=True, timeout=60)
+    done = subprocess.run([SCRIPT], input=text, capture_output=True, text=True, timeout=60)
     answers = {}
     for line in done.stdout.splitlines():
         name, equals, value = line.partition(" = ")
-        if equals:
+        if equals and name != "hash":
             answers[name] = value.strip('"')
     return answers
+
+
+def same(found, wanted):
+    """Two values as the script runner tells them; numbers to half a penny."""
+    try:
+        return abs(float(found) - float(wanted)) < 0.005
+    except ValueError:
+        return found == wanted
 
 
 def near(found, wanted, what):
