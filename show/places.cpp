@@ -9,10 +9,10 @@ namespace {
 using enum element;
 
 constexpr int row_height = 345;     // of a line in the table: none covers the next
-constexpr int hold_over_reel = 463; // pixels: as far from its reel's edge as the other two
+constexpr int first_row_up = 30;    // as far from the second as that from the third
+constexpr int hold_over_reel = 464; // pixels: as far from its reel's edge as the other two
 constexpr int on_the_bar = 7720;    // the middle of the board's bar, for its row of buttons
-
-constexpr int ledger_shift = 3; // pixels: the right column stands free of the frame
+constexpr int ledger_shift = 45;    // so that the right column stands free of the frame
 
 constexpr element bar_buttons[] = {feature_collect,    feature_featurebutton,  feature_cashbutton,
                                    feature_shotbutton, feature_exchangebutton, feature_stopfeature,
@@ -23,15 +23,17 @@ constexpr element bar_buttons[] = {feature_collect,    feature_featurebutton,  f
 rect seen_place(const panel& p, element e) {
     rect place = row(e).place;
     place.top = at(p, e).top;
-    if (e >= Highscore_one && e <= Highscore_ten)
+    if (e >= Highscore_one && e <= Highscore_ten) {
         place.height = row_height;
-    else if ((e >= statistics_Label6 && e <= statistics_Label10) ||
-             (e >= statistics_pcent && e <= statistics_text6))
-        place.left -= ledger_shift * 15;
-    else if (e == hold3)
+        place.top -= e == Highscore_one ? first_row_up : 0;
+    } else if ((e >= statistics_Label6 && e <= statistics_Label10) ||
+               (e >= statistics_pcent && e <= statistics_text6)) {
+        place.left -= ledger_shift;
+    } else if (e == hold3) {
         place.left = hold_over_reel * 15;
-    else if (std::find(std::begin(bar_buttons), std::end(bar_buttons), e) != std::end(bar_buttons))
+    } else if (std::find(std::begin(bar_buttons), std::end(bar_buttons), e) != std::end(bar_buttons)) {
         place.top += on_the_bar - row(e).place.top;
+    }
     return place;
 }
 

@@ -11,6 +11,7 @@
 #include "screens/events.h"
 #include "script/dump.h"
 #include "show/hints.h"
+#include "show/places.h"
 #include "show/spokennames.h"
 #include "show/stage.h"
 #include "tests/testgame.h"
@@ -358,6 +359,19 @@ TEST_F(Show, HintsHoldInLongPlay) {
     }
     EXPECT_GT(seen.size(), 20U);
     EXPECT_GT(visits, 10);
+}
+
+// Keys stand alike over their reels, rows of the table alike beneath each other, and none covers another.
+TEST_F(Show, PlacesAreEven) {
+    const auto place = [&](element e) { return seen_place(g.p, e); };
+    for (int n = 2; n <= 3; ++n)
+        EXPECT_EQ(place(nth(element::hold1, n)).left - place(nth(element::reel1, n)).left,
+                  place(element::hold1).left - place(element::reel1).left);
+    const int pitch = place(element::Highscore_ten).top - place(element::Highscore_nine).top;
+    EXPECT_LE(place(element::Highscore_one).height, pitch);
+    for (int n = 2; n <= 10; ++n)
+        EXPECT_EQ(place(nth(element::Highscore_one, n)).top - place(nth(element::Highscore_one, n - 1)).top,
+                  pitch);
 }
 
 TEST_F(Show, NamesAreTheWordsThatAListenerNeeds) {

@@ -31,8 +31,6 @@ void keep_on_screen(QWidget& window, const QRect& area) {
     window.move(x, y);
 }
 
-QSize around_the_panel(const mainwindow& window) { return window.bars(); }
-
 } // namespace
 
 QSize fitting_size(QSize panel, QSize around, QSize area) {
@@ -58,8 +56,9 @@ void place_main_window(mainwindow& window, const view_settings& view) {
         return;
     }
     const QRect area = work_area(window);
-    const QSize bars = around_the_panel(window);
-    window.resize(fitting_size(window.main_view().panel_size(), bars + frame, area.size()) + bars);
+    const QSize panel =
+        fitting_size(window.main_view().panel_size(), window.bars(area.width()) + frame, area.size());
+    window.resize(panel + window.bars(panel.width()));
     window.move(area.center() - QRect(QPoint(0, 0), window.size() + frame).center());
     keep_on_screen(window, area);
 }
@@ -76,9 +75,8 @@ void zoom_main_window(mainwindow& window, double zoom) {
     if (window.isFullScreen() || window.isMaximized())
         window.showNormal();
     const QRect area = work_area(window);
-    const QSize bars = around_the_panel(window);
     const QSize wanted = (QSizeF(window.main_view().panel_size()) * std::clamp(zoom, smallest, 4.0)).toSize();
-    window.resize((wanted + bars).boundedTo(area.size() - frame));
+    window.resize((wanted + window.bars(wanted.width())).boundedTo(area.size() - frame));
     keep_on_screen(window, area);
 }
 

@@ -4,13 +4,16 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 namespace hustle::desktop {
 
 namespace {
 
-constexpr int line_height = 26; // pixels
+constexpr int least_height = 26, most_height = 52; // pixels
+constexpr int widths_to_height = 40;               // it grows with the machine above it
 constexpr const char* look = "QWidget { background: #1e0a24; }"
-                             "QLabel { color: #f3e3bd; padding: 0 12px; font-size: 14px; }";
+                             "QLabel { color: #f3e3bd; padding: 0 12px; }";
 
 QLabel* make_label(QWidget* owner, Qt::Alignment align) {
     auto* label = new QLabel(owner);
@@ -32,10 +35,23 @@ hintline::hintline(QWidget* parent)
     row->addWidget(money);
     what->setMinimumWidth(0);
     what->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // a long hint never widens the window
-    setFixedHeight(line_height);
+    fit();
 }
 
-QSize hintline::sizeHint() const { return {QWidget::sizeHint().width(), line_height}; }
+int hintline::height_at(int width) { return std::clamp(width / widths_to_height, least_height, most_height); }
+
+QSize hintline::sizeHint() const { return {QWidget::sizeHint().width(), height_at(width())}; }
+
+void hintline::resizeEvent(QResizeEvent*) { fit(); }
+
+void hintline::fit() {
+    const int high = height_at(width());
+    QFont letters = font();
+    letters.setPixelSize(high * 14 / 26);
+    what->setFont(letters);
+    money->setFont(letters);
+    setFixedHeight(high);
+}
 
 void hintline::tell(const game& g) {
     const std::string_view said = hint(g);

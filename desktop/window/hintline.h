@@ -13,8 +13,14 @@ public:
     explicit hintline(QWidget* parent);
     void tell(const game&);
     QSize sizeHint() const override;
+    static int height_at(int width); // of the line in a window of that width, pixels
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
 
 private:
+    void fit();
+
     QLabel* what;
     QLabel* money;
     QString last;

@@ -48,9 +48,9 @@ mainwindow::mainwindow(session& s) : played(s), stack(new QStackedWidget(this)) 
     show_hints();
 }
 
-QSize mainwindow::bars() const {
+QSize mainwindow::bars(int width) const {
     const int menu = played.view.full_screen ? 0 : menuBar()->sizeHint().height();
-    return {0, menu + (played.view.hints ? hint->sizeHint().height() : 0)};
+    return {0, menu + (played.view.hints ? hintline::height_at(width) : 0)};
 }
 
 void mainwindow::show_hints() {

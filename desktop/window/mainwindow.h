@@ -18,8 +18,8 @@ class mainwindow : public QMainWindow {
 public:
     explicit mainwindow(session&);
 
-    // What stands around the panel: the menu bar and the hint line, with their present sizes.
-    QSize bars() const;
+    // What stands around the panel in a window of that width: the menu bar and the hint line, pixels.
+    QSize bars(int width) const;
     // Shows or hides the hint line, as the settings say.
     void show_hints();
     // Everything is drawn anew.

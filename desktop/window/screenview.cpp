@@ -291,8 +291,10 @@ void screenview::make_text_boxes() {
         too_long->setStyleSheet("color: #ffd98a; background: transparent;");
         too_long->setAlignment(Qt::AlignCenter);
         too_long->hide();
+        QObject::connect(box, &QLineEdit::textChanged, this, [this](const QString& text) {
+            too_long->setVisible(text.toUcs4().size() > seen_letters);
+        });
         QObject::connect(box, &QLineEdit::textEdited, this, [this, e = r.id](const QString& text) {
-            too_long->setVisible(text.size() > seen_letters);
             const std::string typed = text.toStdString();
             send(played, {input::kind::type, what, e, 0, typed});
         });
@@ -308,8 +310,9 @@ void screenview::place_children() {
         font.setBold(true);
         font.setPixelSize(std::max(6, static_cast<int>(box->height() * 0.5)));
         box->setFont(font);
-        too_long->setGeometry(
-            box->geometry().adjusted(-width() / 5, box->height() + 2, width() / 5, box->height()));
+        font.setPixelSize(std::max(6, static_cast<int>(box->height() * 0.36)));
+        too_long->setFont(font);
+        too_long->setGeometry(0, box->geometry().bottom() + 2, width(), box->height());
     }
     place_spoken(spoken, *this);
 }

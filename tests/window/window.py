@@ -36,7 +36,7 @@ class Display:
     def __enter__(self):
         read_end, write_end = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=(write_end,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as answer:
@@ -159,11 +159,12 @@ class Machine:
     def click(self, x, y, panel=PANEL):
         """A click on a point of main or of the board, in panel pixels."""
         def place(width, height):
-            # Main fills the window beneath the menu bar; the board is fitted into the same room.
+            # Main stands between the menu bar and the hint line; the board is fitted into the same room.
+            hint = min(max(width // 40, 26), 52)
             room = width * PANEL[1] / PANEL[0]
             scale = min(width / panel[0], room / panel[1])
             return ((width - panel[0] * scale) / 2 + x * scale,
-                    height - room + (room - panel[1] * scale) / 2 + y * scale)
+                    height - hint - room + (room - panel[1] * scale) / 2 + y * scale)
         self.click_at(self.main, place)
 
     def click_in(self, title, across, down):
