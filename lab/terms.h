@@ -5,9 +5,11 @@
 
 namespace hustle::lab {
 
+inline constexpr int most_machines = 1'000'000;
+
 struct terms {
     int policy = 0;                // its place in policies()
-    int machines = 16;             // at least 1
+    int machines = 16;             // 1 to most_machines
     std::uint64_t plays = 100'000; // counted on each machine, at least 1
     std::uint64_t warmup = 0;      // plays before these on each machine that are left out
     std::uint64_t seed = 1;        // of the whole run

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -101,6 +102,8 @@ terms read_terms(const json& from) {
     if (t.policy < 0)
         throw file_error("its policy is not known here");
     t.machines = from.at("machines").get<int>();
+    if (t.machines < 1 || t.machines > most_machines)
+        throw file_error("it has " + std::to_string(t.machines) + " machines");
     t.plays = from.at("plays").get<std::uint64_t>();
     t.seed = read_seed(more.at("seed").get<std::string>());
     t.warmup = more.at("warmup").get<std::uint64_t>();
@@ -110,6 +113,14 @@ terms read_terms(const json& from) {
     t.moneyin = more.at("moneyin").get<int>();
     t.moneyout = more.at("moneyout").get<int>();
     return t;
+}
+
+// The machine that was read last is one of the share, and comes after those before it.
+void check_machine(const result& r) {
+    const int number = r.machines.back().machine;
+    const bool in_order = r.machines.size() < 2 || r.machines[r.machines.size() - 2].machine < number;
+    if (number < 0 || number >= r.t.machines || number % r.of != r.shard - 1 || !in_order)
+        throw file_error("machine " + std::to_string(number) + " has no place in it");
 }
 
 // The bytes before the seal must be those that it was made of.
@@ -203,8 +214,12 @@ result read_result(const std::string& text, const std::string& name) {
             r.shard = from["shard"].at(0).get<int>();
             r.of = from["shard"].at(1).get<int>();
         }
-        for (const json& row : from.at("records"))
+        if (r.of < 1 || r.of > most_machines || r.shard < 1 || r.shard > r.of)
+            throw file_error("it is no share of a run");
+        for (const json& row : from.at("records")) {
             read_record(row, r.machines.emplace_back());
+            check_machine(r);
+        }
         return r;
     } catch (const file_error& e) {
         throw file_error(name + ": " + e.what());
@@ -216,9 +231,16 @@ result read_result(const std::string& text, const std::string& name) {
 }
 
 std::string read_file(const std::string& name) {
+    constexpr std::uintmax_t longest = 1U << 30;
+    std::error_code none;
+    if (const auto status = std::filesystem::status(name, none);
+        std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw file_error(name + ": is no plain file");
     std::ifstream in(name, std::ios::binary);
     if (!in)
         throw file_error(name + ": cannot be opened");
+    if (std::filesystem::file_size(name, none) > longest)
+        throw file_error(name + ": is longer than a file of the lab can be");
     std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     if (in.bad())
         throw file_error(name + ": cannot be read");
@@ -226,8 +248,12 @@ std::string read_file(const std::string& name) {
 }
 
 void write_file(const std::string& name, const std::string& text) {
+    std::error_code none;
+    if (const auto status = std::filesystem::symlink_status(name, none);
+        std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw file_error(name + ": is there and is no plain file; nothing was written");
     const std::string fresh = name + ".new";
-    const int file = ::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const int file = ::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0644);
     bool good = file >= 0;
     for (std::size_t done = 0; good && done < text.size();) {
         const ssize_t n = ::write(file, text.data() + done, text.size() - done);

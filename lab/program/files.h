@@ -31,8 +31,9 @@ std::string csv_text(const result&);
 // Throws file_error where the text is damaged or not the lab's.
 result read_result(const std::string& text, const std::string& name);
 
-std::string read_file(const std::string& name); // throws file_error
-// The old file or the new one is there, whatever happens. Throws file_error.
+// Both take plain files alone, and throw file_error. Of a file that is written, the old one or the new one is
+// there, whatever happens.
+std::string read_file(const std::string& name);
 void write_file(const std::string& name, const std::string& text);
 // The result as JSON, and as CSV beside it.
 void save(const result&, const std::string& name);

@@ -36,7 +36,7 @@ void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& sh
         names.emplace_back(p.name);
     run->add_option("--policy", policy, policy_help())->check(CLI::IsMember(names))->capture_default_str();
     run->add_option("--machines", o.t.machines, "Independent machines")
-        ->check(CLI::Range(1, 1'000'000))
+        ->check(CLI::Range(1, most_machines))
         ->capture_default_str();
     run->add_option("--plays", o.t.plays, "Plays on each machine")
         ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{10'000'000'000}))
@@ -67,6 +67,7 @@ void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& sh
     run->add_option("--shard", shard, "Play one share of the machines: 2/8 is the second of eight");
     CLI::Option* out = run->add_option("--out", o.out, "Result as JSON; the machines as CSV stand beside it");
     run->add_flag("--resume", o.resume, "Go on from the whole machines in the result file")->needs(out);
+    run->add_flag("--replace", o.replace, "Play anew where the result file is there already")->needs(out);
 }
 
 } // namespace
@@ -92,7 +93,7 @@ int main(int count, char** words) {
         if (!shard.empty())
             read_shard(shard, o);
     } catch (const CLI::ParseError& e) {
-        return app.exit(e);
+        return app.exit(e) == 0 ? 0 : 2;
     }
     try {
         if (app.got_subcommand("run"))

@@ -112,6 +112,15 @@ result so_far(const result& begun, const work& w) {
     return r;
 }
 
+// A disk that is full for now costs no play: the next saving may go well, and the last one counts.
+void save_meanwhile(const result& r, const std::string& name) {
+    try {
+        save(r, name);
+    } catch (const file_error& e) {
+        std::cerr << "hustlelab: " << e.what() << "; the run goes on\n";
+    }
+}
+
 // Waits for the threads; saves now and then, and tells a person how it goes.
 void wait_for(work& w, const result& begun, const run_options& o, const progress& bar) {
     std::unique_lock guard(w.lock);
@@ -125,10 +134,16 @@ void wait_for(work& w, const result& begun, const run_options& o, const progress
         saved_records = w.records.size();
         const result now = so_far(begun, w);
         guard.unlock();
-        save(now, o.out);
+        save_meanwhile(now, o.out);
         saved = std::chrono::steady_clock::now();
         guard.lock();
     }
+}
+
+// Better now than after a night.
+void try_place(const std::string& name) {
+    write_file(name, "");
+    std::filesystem::remove(name);
 }
 
 result earlier(const run_options& o) {
@@ -136,7 +151,15 @@ result earlier(const run_options& o) {
     r.t = o.t;
     r.shard = o.shard;
     r.of = o.of;
-    if (!o.resume || !std::filesystem::exists(o.out))
+    if (o.out.empty() || !std::filesystem::exists(o.out)) {
+        if (!o.out.empty())
+            try_place(o.out);
+        return r;
+    }
+    if (!o.resume && !o.replace)
+        throw file_error(o.out + ": is there already: --resume goes on with it, --replace plays anew; "
+                                 "nothing was played");
+    if (!o.resume)
         return r;
     result found = read_result(read_file(o.out), o.out);
     if (found.t != o.t || found.shard != o.shard || found.of != o.of)
@@ -195,12 +218,16 @@ int run(const run_options& o) {
     bar.clear();
     const double seconds = seconds_since(bar.began);
     r = so_far(r, w);
+    if (!r.machines.empty())
+        std::cout << told(r) << std::flush; // before the saving, which may fail
+    if (w.wanted.empty())
+        std::cerr << "hustlelab: all of it was played before\n";
+    else
+        std::fprintf(stderr, "%.0f plays in %.1f s: %.0f a second on %zu thread%s\n",
+                     static_cast<double>(w.done), seconds,
+                     static_cast<double>(w.done) / std::max(seconds, 1e-9), threads, threads == 1 ? "" : "s");
     if (!o.out.empty() && !r.machines.empty())
         save(r, o.out);
-    if (!r.machines.empty())
-        std::cout << told(r);
-    std::fprintf(stderr, "%.0f plays in %.1f s: %.0f a second on %zu threads\n", static_cast<double>(w.done),
-                 seconds, static_cast<double>(w.done) / std::max(seconds, 1e-9), threads);
     for (const stuck_machine& where : w.stuck)
         tell_stuck(o.t, where);
     if (!w.stuck.empty())

@@ -10,9 +10,10 @@ namespace hustle::lab {
 struct run_options {
     terms t;
     int shard = 1, of = 1;
-    int threads = 0; // 0: one for each core
-    std::string out; // file; empty: none is written
-    bool resume = false;
+    int threads = 0;      // 0: one for each core
+    std::string out;      // file; empty: none is written
+    bool resume = false;  // go on from what the file holds
+    bool replace = false; // or play anew; with neither, a file that is there is refused
 };
 
 inline constexpr int status_stuck = 3;

@@ -77,6 +77,31 @@ TEST(Files, AnyDamageIsSeen) {
     EXPECT_THROW(read_result("{\"format\":\"other\"}", "file"), file_error);
 }
 
+// A checksum is no secret: what it seals may still make no sense.
+TEST(Files, ASealedFileMustMakeSenseAsWell) {
+    const std::string text = file_text(small_run("starter"));
+    const auto sealed = [&](std::string_view what, const std::string& by) {
+        std::string s = text;
+        s.replace(s.find(what), what.size(), by);
+        const std::size_t seal = s.rfind("\"checksum\"");
+        char hex[17];
+        std::snprintf(hex, sizeof hex, "%016llx",
+                      static_cast<unsigned long long>(hash_of(s.substr(0, seal))));
+        return s.replace(seal + 12, 16, hex);
+    };
+    EXPECT_EQ(sealed("starter", "starter"), text);
+    for (const char* share : {"[1,0]", "[1,-3]", "[0,1]", "[2,1]", "[1,2000000000]"})
+        EXPECT_THROW(
+            read_result(sealed("\"figures\"", "\"shard\":" + std::string(share) + ",\"figures\""), "file"),
+            file_error)
+            << share;
+    for (const char* machines : {"0", "-1", "2000000000", "2"})
+        EXPECT_THROW(read_result(sealed("\"machines\":3", "\"machines\":" + std::string(machines)), "file"),
+                     file_error)
+            << machines;
+    EXPECT_THROW(read_result(sealed("\"machine\":1", "\"machine\":0"), "file"), file_error);
+}
+
 // The same seed, the same bytes: whatever the compiler, whatever the house. It moves with the
 // players and with the figures that a file holds; a change says so.
 TEST(Files, TheBytesAreTheSameEverywhere) {

@@ -43,6 +43,15 @@ echo '{"a": 1}' >foreign.json
 refused 'not a file of the lab' "$lab" report foreign.json
 refused 'cannot be opened' "$lab" report nowhere.json
 refused 'other terms' "$lab" "${run[@]}" --seed 3 --out one.json --resume
+refused 'is there already' "$lab" "${run[@]}" --out one.json
+cmp one.json three.json || fail "a refused run has changed the file"
+mkdir folder
+mkfifo pipe
+for place in folder pipe; do # a device too: whoever is root would replace it
+    refused 'no plain file' "$lab" "${run[@]}" --replace --out $place
+    refused 'no plain file' "$lab" report $place
+done
+refused 'cannot be written' "$lab" "${run[@]}" --out nowhere/one.json
 refused 'no share' "$lab" run --shard 4/3
 refused 'policy' "$lab" run --policy nobody
 refused 'plays' "$lab" run --plays 0
