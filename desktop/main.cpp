@@ -3,12 +3,14 @@
 #include "desktop/session/onlyone.h"
 #include "desktop/session/session.h"
 #include "desktop/session/watch.h"
+#include "script/reading.h"
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
+#include <sstream>
 #include <string>
 
 #ifdef __GLIBC__
@@ -80,13 +82,17 @@ int read_arguments(options& to, int count, char** arguments) {
 // Plays a script in the window.
 int watch_a_script(hustle::desktop::session& session, const std::string& path) {
     using namespace hustle::desktop;
-    const stored_text script = read_stored(".", path, longest_session);
+    const stored_text script = read_stored(".", path, hustle::script::longest_script + 1);
     if (script.what != stored_text::state::there) {
         std::fprintf(stderr, "hoardhustle: %s cannot be read: %s\n", path.c_str(), script.why.c_str());
         return 2;
     }
     watching watched;
-    watched.text = script.text;
+    std::istringstream lines(script.text);
+    if (const std::string wrong = hustle::script::read_script(lines, watched.text); !wrong.empty()) {
+        std::fprintf(stderr, "hoardhustle: %s %s\n", path.c_str(), wrong.c_str());
+        return 2;
+    }
     watched.name = path;
     session.world.saving = false;
     open_session(session);

@@ -1,6 +1,8 @@
 // `hustle` in the console: the machine by its script names. What these calls do is what the commands
 // of a panel script do.
 
+const longestRun = 86_400_000; // ms: a day, as in a script
+
 export function makeConsole(machine, session, refreshAll, pays) {
   const { x, sheet } = machine;
   const element = (name) => {
@@ -34,8 +36,11 @@ export function makeConsole(machine, session, refreshAll, pays) {
     },
     press: (name) => asInScript(() => taken(session.send("hh_press", element(name)))),
     key: (code, where) => asInScript(() => taken(session.send("hh_key", screen(where), code))),
-    type: (name, text) =>
-      asInScript(() => taken(session.send("hh_type", element(name), machine.give(text)))),
+    type(name, text) {
+      const box = element(name);
+      if (sheet.byName.get(name).kind !== "textbox") throw new Error(`${name} is no text box`);
+      return asInScript(() => taken(session.send("hh_type", box, machine.give(text))));
+    },
     close: (name) => asInScript(() => taken(session.send("hh_close", screen(name)))),
     focus: (name) => asInScript(() => taken(session.send("hh_show", screen(name)))),
     answer(word) {
@@ -46,7 +51,8 @@ export function makeConsole(machine, session, refreshAll, pays) {
     // Time goes by here alone on a still page; on any other it goes by itself.
     run(ms) {
       if (!session.still) throw new Error("the clock of this page runs by itself: add &still to its address");
-      if (!Number.isInteger(ms) || ms < 0) throw new Error("run takes whole milliseconds");
+      if (!Number.isInteger(ms) || ms < 0 || ms > longestRun)
+        throw new Error(`run takes whole milliseconds from 0 to ${longestRun}`);
       return asInScript(() => {
         session.run(ms);
         refreshAll();
