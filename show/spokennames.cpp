@@ -1,10 +1,12 @@
 #include "show/spokennames.h"
 
 #include "art/lamplooks.h"
+#include "panel/ring.h"
 #include "panel/sheet.h"
 #include "panel/text.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace hustle {
 
@@ -45,21 +47,22 @@ constexpr fixed_name names[] = {
     {wintable_Picture1, "Table of wins"},
 };
 
-// What a landing on the square gives.
-constexpr std::string_view squares[24] = {
-    "start",        "multi add: one of each",
-    "two cash",     "one shot",
-    "two features", "mystery",
-    "two cash",     "extra life",
-    "two shots",    "two features",
-    "mystery",      "one cash",
-    "boost",        "one feature",
-    "game over",    "multi add: one of each",
-    "one shot",     "one feature",
-    "skill stop",   "bomb",
-    "mystery",      "two shots",
-    "random stop",  "game over",
+// What a landing gives, by the kind of the square.
+constexpr std::string_view landings[] = {
+    "start",       "multi add: one of each",
+    "one cash",    "two cash",
+    "one shot",    "two shots",
+    "one feature", "two features",
+    "mystery",     "extra life",
+    "boost",       "game over",
+    "skill stop",  "random stop",
+    "bomb",
 };
+static_assert(std::size(landings) == square_kinds);
+
+std::string_view landing_on(int n) {
+    return landings[static_cast<std::size_t>(ring[static_cast<std::size_t>(n - 1)])];
+}
 
 // A member of a family that stands in a row, counted from 1; 0 for any other element.
 int place_in(element first, element last, element e) {
@@ -150,7 +153,7 @@ std::string family_name(const game& g, element e) {
     if (const int n = place_in(hold1, hold3, e))
         return hold_name(g, e, n);
     if (const int n = place_in(feature_square1, feature_square24, e))
-        return lamp(numbered("Square", n, squares[n - 1]), a >= art::boxlight1 && a <= art::boxlight24);
+        return lamp(numbered("Square", n, landing_on(n)), a >= art::boxlight1 && a <= art::boxlight24);
     if (const int n = place_in(feature_bomb1, feature_bomb3, e))
         return lamp(numbered("Bomb", n, {}), a == art::bombiconlight);
     if (const int n = place_in(numberone, numbernine, e))

@@ -386,6 +386,10 @@ TEST_F(Show, NamesAreTheWordsThatAListenerNeeds) {
     EXPECT_EQ(spoken_name(g, element::hold1), "Hold reel 1, held");
     open_board("feature", 1);
     EXPECT_EQ(spoken_name(g, nth(element::feature_square1, 3)), "Square 3: two cash, lit");
+    darkallsquares(g);
+    EXPECT_EQ(spoken_name(g, nth(element::feature_square1, 15)), "Square 15: game over");
+    EXPECT_EQ(spoken_name(g, nth(element::feature_square1, 19)), "Square 19: skill stop");
+    EXPECT_EQ(spoken_name(g, nth(element::feature_square1, 22)), "Square 22: two shots");
 }
 
 } // namespace
