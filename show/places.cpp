@@ -20,9 +20,8 @@ constexpr element bar_buttons[] = {feature_collect,    feature_featurebutton,  f
 
 } // namespace
 
-rect seen_place(const panel& p, element e) {
+rect seen_place(element e) {
     rect place = row(e).place;
-    place.top = at(p, e).top;
     if (e >= Highscore_one && e <= Highscore_ten) {
         place.height = row_height;
         place.top -= e == Highscore_one ? first_row_up : 0;
@@ -34,6 +33,12 @@ rect seen_place(const panel& p, element e) {
     } else if (std::find(std::begin(bar_buttons), std::end(bar_buttons), e) != std::end(bar_buttons)) {
         place.top += on_the_bar - row(e).place.top;
     }
+    return place;
+}
+
+rect seen_place(const panel& p, element e) {
+    rect place = seen_place(e);
+    place.top += at(p, e).top - row(e).place.top;
     return place;
 }
 

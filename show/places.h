@@ -5,7 +5,8 @@
 
 namespace hustle {
 
-// In twips, with the element's own `top` of the moment.
+// In twips, with the element's own `top` of the moment, and as it stands in a fresh machine.
 rect seen_place(const panel&, element);
+rect seen_place(element);
 
 } // namespace hustle

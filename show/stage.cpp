@@ -37,6 +37,10 @@ void take_in(stage& s, const game& g, std::int64_t now) {
     s.still_logo = g.m.flashlogo == flag::no;
     s.logo = at(g.p, element::toplogo);
     s.logo.picture = art::title;
+    s.dark_start = at(g.p, element::feature_startbutton);
+    s.dark_start.picture = art::fstartpicdark;
+    s.dark_start.visible = true;
+    s.dark_start.enabled = false;
     s.fresh = false;
 }
 

@@ -79,9 +79,10 @@ struct patch {
 };
 
 struct stage {
-    bool reduced = false;    // Reduced Flashing: nothing flashes more than three times a second
-    bool still_logo = false; // the logo keeps its first look: Flashing Logo Off
-    element_state logo;      // that look
+    bool reduced = false;     // Reduced Flashing: nothing flashes more than three times a second
+    bool still_logo = false;  // the logo keeps its first look: Flashing Logo Off
+    element_state logo;       // that look
+    element_state dark_start; // of the board's Start while the machine hides it: no hole is seen
     std::array<reel_motion, 3> reels{};
     belt_motion belt;
     win_motion win;

@@ -153,6 +153,8 @@ void set_reduced(stage& s, const game& g, bool on) {
 const element_state& shown(const stage& s, const panel& p, element e) {
     if (s.still_logo && is_logo(e))
         return s.logo;
+    if (e == element::feature_startbutton && !at(p, e).visible)
+        return s.dark_start;
     const lamp_history& h = s.lamps[static_cast<std::size_t>(e)];
     return s.reduced && h.held ? h.shown : at(p, e);
 }

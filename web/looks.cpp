@@ -3,6 +3,7 @@
 #include "art/dotfont.h"
 #include "art/lamplooks.h"
 #include "panel/sheet.h"
+#include "show/places.h"
 #include "show/spokennames.h"
 #include "web/here.h"
 #include "web/surface.h"
@@ -48,7 +49,7 @@ const hh_shown_look* hh_look(int e) {
     const element_state& s = state_of(e);
     const element_row& r = row(static_cast<element>(e));
     look_buffer = {static_cast<int>(shown_art(machine_here().g.p, s.picture)),
-                   s.top,
+                   seen_place(machine_here().g.p, static_cast<element>(e)).top,
                    s.back,
                    s.fore,
                    s.activecolor,

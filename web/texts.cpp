@@ -3,6 +3,7 @@
 #include "core/files.h"
 #include "panel/sheet.h"
 #include "script/dump.h"
+#include "show/places.h"
 #include "web/here.h"
 #include "web/surface.h"
 
@@ -37,9 +38,10 @@ constexpr std::string_view kinds[] = {"picture", "button", "clicked", "label", "
 
 std::string element_json(element e) {
     const element_row& r = row(e);
+    const rect place = seen_place(e);
     return "[" + quoted(r.name) + "," + figure(static_cast<int>(r.where)) + "," +
-           quoted(kinds[static_cast<std::size_t>(r.what)]) + "," + figure(r.place.left) + "," +
-           figure(r.place.top) + "," + figure(r.place.width) + "," + figure(r.place.height) + "," +
+           quoted(kinds[static_cast<std::size_t>(r.what)]) + "," + figure(place.left) + "," +
+           figure(place.top) + "," + figure(place.width) + "," + figure(place.height) + "," +
            (is_lamp(r) ? "1" : "0") + "]";
 }
 

@@ -156,11 +156,8 @@ QRect device_place(const panel& p, element e, double pixel, QPoint origin) {
 void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed) {
     const element_row& r = row(e);
     const element_state& state = shown(c.show, p, e);
-    if (!state.visible) {
-        if (e == element::feature_startbutton) // the key stays in its place, dark
-            c.painter.drawPixmap(box.topLeft(), picture(c.pictures, art::fstartpicdark, box.size()));
+    if (!state.visible)
         return;
-    }
     switch (r.what) {
     case kind::picture:
     case kind::button:

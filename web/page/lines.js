@@ -64,7 +64,8 @@ function glyphOf(machine, letter) {
   return glyphs.get(letter);
 }
 
-// Draws a text over the whole canvas; `run` is how many columns of dots it has run to the left.
+// Draws a text over the whole canvas; `run` is how many columns of dots it has run to the left, or
+// "middle": its letters stand in the middle of the line.
 export function drawLine(machine, canvas, text, dots, flash, run = 0) {
   const { width, height } = canvas;
   if (width < 1 || height < 1) return;
@@ -73,8 +74,9 @@ export function drawLine(machine, canvas, text, dots, flash, run = 0) {
   const lamp = rgb(dots);
   c.drawImage(ground(width, height, lamp, false, flash), 0, 0);
   const lit = ground(width, height, lamp, true, flash);
-  let left = -run;
-  for (const letter of text) {
+  const letters = [...(run === "middle" ? text.trim() : text)];
+  let left = run === "middle" ? Math.trunc((grid.columns - letters.length * cellColumns + 1) / 2) : -run;
+  for (const letter of letters) {
     if (left >= grid.columns) break;
     const shape = glyphOf(machine, letter);
     for (let row = 0; row < rows; row += 1) {

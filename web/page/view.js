@@ -124,13 +124,12 @@ export function makeScreen(machine, screen, { press, type }) {
   }
 
   function showLamp(part, look, caption) {
-    part.node.classList.toggle("givenup", look.enabled === 0);
     part.node.classList.toggle("lit", look.lit === 1);
     showArt(part.node.firstChild, lampUrl(machine, part.e, look, caption));
   }
 
   function showLine(part, look, caption) {
-    const run = part.run ?? 0;
+    const run = part.e.name === "shotbox" ? "middle" : part.run ?? 0; // a number, always in the middle
     const key = `${caption}|${look.dots}|${look.flash}|${run}`;
     if (part.drawn === key || !part.node.width) return;
     part.drawn = key;
