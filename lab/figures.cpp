@@ -44,13 +44,16 @@ double play_deviation(const tally& t) { // of what one play pays, in units
     return std::sqrt(std::max(0.0, real(t.squares) / n - mean * mean));
 }
 
+void open_named(jsontext& j, const named& n) {
+    j.open('{');
+    j.key("key"), j.text(n.key);
+    j.key("title"), j.text(n.title);
+}
+
 void write_sources(jsontext& j, const tally& t) {
     j.open('[');
     for (std::size_t i = 0; i < source_count; ++i) {
-        const auto [key, title] = name(static_cast<source>(i));
-        j.open('{');
-        j.key("key"), j.text(key);
-        j.key("title"), j.text(title);
+        open_named(j, name(static_cast<source>(i)));
         j.key("payouts"), j.whole(t.payouts[i]);
         j.key("units"), j.whole(t.paid[i]);
         j.key("percent"), j.real(percent(real(t.paid[i]), real(t.staked)));
@@ -63,10 +66,7 @@ void write_sources(jsontext& j, const tally& t) {
 void write_features(jsontext& j, const tally& t) {
     j.open('[');
     for (std::size_t i = 0; i < feature_count; ++i) {
-        const auto [key, title] = name(static_cast<feature>(i));
-        j.open('{');
-        j.key("key"), j.text(key);
-        j.key("title"), j.text(title);
+        open_named(j, name(static_cast<feature>(i)));
         j.key("times"), j.whole(t.times[i]);
         j.key("plays_each"), j.real(t.times[i] > 0 ? real(t.plays) / real(t.times[i]) : none, 2);
         j.close('}');
