@@ -34,6 +34,7 @@ struct memory {
     bool promised = false;       // the machine has told to spin without a hold
     int nudges = 0;              // in hand
     int climb = 0;               // lamps that stood at the last catch of a Trail Climber
+    int lost = 0;                // presses without a reason since the last Start
     int shots = 0;               // with which the shots game began
 };
 

@@ -29,6 +29,15 @@ template <std::size_t n> element in_turn(const sight& s, const memory& m, const 
     return found;
 }
 
+// No lamp tells what to do. Under the attract mode the stops of Reel Skill do not flash; and a promise whose
+// pair was nudged away ends with Start dark, until a credit comes.
+element press_anything(const sight& s, memory& m) {
+    constexpr int most_lost = 30; // minutes
+    if (++m.lost <= most_lost)
+        return nth(hold1, splitmix_draw(m.dice, 3));
+    return s.money_in_bank() ? transfer : newgame;
+}
+
 } // namespace
 
 element find_money(const sight& s, memory& m) {
@@ -70,6 +79,7 @@ element get_on(const sight& s, memory& m) {
     if (can_start && (!s.live(stopper) || m.last != start)) {
         if (s.last_credit() && s.money_in_bank() && m.last != transfer)
             return transfer;
+        m.lost = 0;
         return start;
     }
     if (s.nudge_lamps() || s.shows(hold1, art::stoppiclight))
@@ -78,8 +88,7 @@ element get_on(const sight& s, memory& m) {
         return hold3;
     if (!s.has_credit())
         return find_money(s, m);
-    // No lamp tells what to do: under the attract mode the stops of Reel Skill do not flash.
-    return out_of_patience(s, m) ? nth(hold1, splitmix_draw(m.dice, 3)) : no_press;
+    return out_of_patience(s, m) ? press_anything(s, m) : no_press;
 }
 
 move starter(const sight& s, memory& m) { return {get_on(s, m)}; }

@@ -296,6 +296,16 @@ const waiting_state states[] = {
          t.run(10100);
      },
      "No credits and no bank: Game, New", 0, nullptr},
+    {"a promise whose pair was nudged away",
+     [](Show& t) {
+         t.g.m.bank = 3;
+         for (int which = 1; which <= 3; ++which)
+             set_stop(t.g, which, which); // bell, pound, ... no two alike
+         t.g.m.linepromised = t.g.m.holdsbarred = "true";
+         t.key(space);
+         t.run(8000);
+     },
+     "Start is dark: 0 turns £1", '0', [](const game& g) { return is_running(g.p, timer::banktocredits); }},
     {"the gamble", [](Show& t) { t.open_board("hilo", 1); }, "Tab and Enter: Higher or Lower", 0, nullptr},
     {"continue or collect",
      [](Show& t) {
