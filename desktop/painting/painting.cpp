@@ -193,30 +193,45 @@ void draw_element(canvas& c, const panel& p, element e, QRect box, bool pressed)
     }
 }
 
-void draw_win(canvas& c, const panel& p) {
-    const auto to_device = [&](const rect& area) {
-        const double twip = c.pixel / 15.0;
-        return QRectF(c.origin.x() + area.left * twip, c.origin.y() + area.top * twip, area.width * twip,
-                      area.height * twip);
+namespace {
+
+// Light that fades from the frame of the win line inwards, seen on white, with a bright thread on it.
+QPixmap draw_glow(QSize size, double pixel) {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const auto frame = [&](QColor light, double inset, double width) {
+        const double in = inset * pixel;
+        painter.setPen(QPen(light, width * pixel));
+        painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(in, in, -in, -in), 9 * pixel, 9 * pixel);
     };
+    constexpr int rings = 6;
+    for (int ring = rings; ring >= 0; --ring) {
+        const double far = static_cast<double>(ring) / rings;
+        QColor light = mix(QColor(255, 72, 0), QColor(255, 190, 40), far);
+        light.setAlphaF(static_cast<float>(1 - 0.85 * far));
+        frame(light, 3 + 3 * ring, ring == 0 ? 3.6 : 3.2);
+    }
+    frame(QColor(255, 244, 190), 3, 1.2);
+    return picture;
+}
+
+} // namespace
+
+void draw_win(canvas& c, const panel& p) {
     const double glow = c.show.win.glow;
     if (glow > 0.01) {
-        const QRectF band = to_device(win_line_area());
-        c.painter.setBrush(Qt::NoBrush);
-        constexpr int rings = 6; // light that fades from the frame inwards, seen on white
-        for (int ring = rings; ring >= 0; --ring) {
-            const double far = static_cast<double>(ring) / rings;
-            QColor light = mix(QColor(255, 72, 0), QColor(255, 190, 40), far);
-            light.setAlphaF(static_cast<float>(glow * (1 - 0.85 * far)));
-            const double in = (3 + 3 * ring) * c.pixel;
-            c.painter.setPen(QPen(light, (ring == 0 ? 3.6 : 3.2) * c.pixel));
-            c.painter.drawRoundedRect(band.adjusted(in, in, -in, -in), 9 * c.pixel, 9 * c.pixel);
-        }
-        QColor core(255, 244, 190); // a bright thread on the frame
-        core.setAlphaF(static_cast<float>(glow));
-        c.painter.setPen(QPen(core, 1.2 * c.pixel));
-        const double in = 3 * c.pixel;
-        c.painter.drawRoundedRect(band.adjusted(in, in, -in, -in), 9 * c.pixel, 9 * c.pixel);
+        const auto to_device = [&](int twips) {
+            return static_cast<int>(std::lround(twips / 15.0 * c.pixel));
+        };
+        const rect band = win_line_area();
+        const QSize size(to_device(band.width), to_device(band.height));
+        if (c.strips.glow.size() != size)
+            c.strips.glow = draw_glow(size, c.pixel);
+        c.painter.setOpacity(glow);
+        c.painter.drawPixmap(c.origin + QPoint(to_device(band.left), to_device(band.top)), c.strips.glow);
+        c.painter.setOpacity(1);
     }
     const art face = p.dollars ? art::coinpic1 : art::coinpic;
     const int size = std::max(1, static_cast<int>(coin_size * c.pixel));

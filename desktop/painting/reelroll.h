@@ -16,6 +16,7 @@ struct strip_store {
     QPixmap paper, glass, sharp;
     QPixmap blurred; // at full speed, with fewer rows: there is nothing sharp to keep
     QPixmap smear;   // one row: the whole strip in one look
+    QPixmap glow;    // of a win, round the win line; empty before the first
 };
 
 // Draws all of it for a reel of this size; false where it stands already.
