@@ -30,12 +30,10 @@ template <std::size_t n> element in_turn(const sight& s, const memory& m, const 
 }
 
 // No lamp tells what to do. Under the attract mode the stops of Reel Skill do not flash; and a promise whose
-// pair was nudged away ends with Start dark, until a credit comes.
-element press_anything(const sight& s, memory& m) {
+// pair was nudged away ends with a dark Start, which only a new game brings back.
+element press_anything(memory& m) {
     constexpr int most_lost = 30; // minutes
-    if (++m.lost <= most_lost)
-        return nth(hold1, splitmix_draw(m.dice, 3));
-    return s.money_in_bank() ? transfer : newgame;
+    return ++m.lost <= most_lost ? nth(hold1, splitmix_draw(m.dice, 3)) : newgame;
 }
 
 } // namespace
@@ -88,7 +86,7 @@ element get_on(const sight& s, memory& m) {
         return hold3;
     if (!s.has_credit())
         return find_money(s, m);
-    return out_of_patience(s, m) ? press_anything(s, m) : no_press;
+    return out_of_patience(s, m) ? press_anything(m) : no_press;
 }
 
 move starter(const sight& s, memory& m) { return {get_on(s, m)}; }

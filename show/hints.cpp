@@ -75,14 +75,6 @@ std::string_view empty_hint(const game& g) {
 constexpr timer passing[] = {timer::init_trail_timer, timer::ilikeit,       timer::dontholdany,
                              timer::letemspin,        timer::banktocredits, timer::numbers2};
 
-// Credits, a machine at rest and a dark Start: what is left of a promise whose pair was nudged away.
-std::string_view dark_start_hint(const game& g) {
-    if (g.m.bank <= 0.1f)
-        return "Start is dark: Game, New lights it";
-    return g.p.dollars ? "Start is dark: 0 turns $1 of the bank into four plays and lights it"
-                       : "Start is dark: 0 turns £1 of the bank into four plays and lights it";
-}
-
 std::string_view main_hint(const game& g) {
     const machine& m = g.m;
     if (live(g, stopper))
@@ -102,7 +94,7 @@ std::string_view main_hint(const game& g) {
     if (m.credits <= 0.1f)
         return empty_hint(g);
     if (!live(g, start))
-        return any_runs(g, passing) ? std::string_view() : dark_start_hint(g);
+        return any_runs(g, passing) ? "" : "A promise cannot be kept, and Start stays dark: Game, New";
     return m.holdsoffered == flag::yes ? offer_hint(g) : "Space plays";
 }
 

@@ -305,7 +305,7 @@ const waiting_state states[] = {
          t.key(space);
          t.run(8000);
      },
-     "Start is dark: 0 turns £1", '0', [](const game& g) { return is_running(g.p, timer::banktocredits); }},
+     "Start stays dark: Game, New", 0, nullptr},
     {"the gamble", [](Show& t) { t.open_board("hilo", 1); }, "Tab and Enter: Higher or Lower", 0, nullptr},
     {"continue or collect",
      [](Show& t) {
