@@ -104,19 +104,27 @@ int watch_a_script(hustle::desktop::session& session, const std::string& path) {
 }
 
 // One program plays on the files of a folder. False where this one has nothing to do.
-bool settle_who_plays(hustle::desktop::only_one& one, hustle::desktop::session& session) {
+bool settle_who_plays(hustle::desktop::only_one& one, hustle::desktop::session& session,
+                      const options& chosen) {
     using namespace hustle::desktop;
+    const wish with = chosen.reduced_flashing ? wish::reduced_flashing
+                      : chosen.full_flashing  ? wish::full_flashing
+                                              : wish::to_front;
     const QString folder = data_folder();
     for (bool deaf = false; !claim_folder(one, folder); deaf = true)
         switch (ask_second(deaf)) {
         case second::to_front:
-            if (call_to_front(folder))
+            if (call_to_front(folder, with))
                 return false;
             break;
         case second::play_unsaved: session.world.saving = false; return true;
         case second::leave: return false;
         }
-    listen_for_calls(one, folder, [&session] { come_to_front(session); });
+    listen_for_calls(one, folder, [&session](wish asked) {
+        if (asked != wish::to_front)
+            set_reduced_flashing(session, asked == wish::reduced_flashing);
+        come_to_front(session);
+    });
     return true;
 }
 
@@ -146,8 +154,10 @@ int main(int argc, char** argv) {
     if (!chosen.watch.empty())
         return watch_a_script(session, chosen.watch);
     hustle::desktop::only_one one;
-    if (!settle_who_plays(one, session))
+    if (!settle_who_plays(one, session, chosen))
         return 0;
+    if (session.world.saving && (chosen.reduced_flashing || chosen.full_flashing))
+        save_view_settings(session.view); // however this session ends
     hustle::desktop::start_session(session);
     const int result = session.g.p.over ? 0 : QApplication::exec();
     hustle::desktop::end_session(session);

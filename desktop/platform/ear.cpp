@@ -16,6 +16,7 @@ namespace hustle::desktop {
 namespace {
 
 constexpr char answer = '!';
+constexpr int word_ms = 200; // a caller tells its word at once
 
 QByteArray place_of(const QString& name) { return QFile::encodeName(QDir::tempPath() + "/" + name); }
 
@@ -34,14 +35,19 @@ int make_socket(int more) { return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC 
 // The system's calls take the general record of an address.
 const sockaddr* general(const sockaddr_un& address) { return reinterpret_cast<const sockaddr*>(&address); }
 
-void answer_all(int ear, const std::function<void()>& called) {
+void answer_all(int ear, const std::function<void(char word)>& called) {
     for (;;) {
         const int caller = ::accept(ear, nullptr, nullptr);
         if (caller < 0)
             return;
-        ::send(caller, &answer, 1, MSG_NOSIGNAL | MSG_DONTWAIT);
+        char word = 0;
+        pollfd speaks{caller, POLLIN, 0};
+        const bool spoken = ::poll(&speaks, 1, word_ms) == 1 && ::recv(caller, &word, 1, 0) == 1;
+        if (spoken)
+            ::send(caller, &answer, 1, MSG_NOSIGNAL | MSG_DONTWAIT);
         ::close(caller);
-        called();
+        if (spoken)
+            called(word);
     }
 }
 
@@ -55,7 +61,7 @@ open_ear::~open_ear() {
     ::unlink(place.constData());
 }
 
-void listen_at(open_ear& ear, const QString& name, const std::function<void()>& called) {
+void listen_at(open_ear& ear, const QString& name, const std::function<void(char word)>& called) {
     const QByteArray place = place_of(name);
     sockaddr_un address;
     const int end = address_of(place, address) ? make_socket(SOCK_NONBLOCK) : -1;
@@ -76,7 +82,7 @@ void listen_at(open_ear& ear, const QString& name, const std::function<void()>& 
                      [end, called] { answer_all(end, called); });
 }
 
-bool call_at(const QString& name, int ms) {
+bool call_at(const QString& name, char word, int ms) {
     sockaddr_un address;
     const int voice = address_of(place_of(name), address) ? make_socket(0) : -1;
     if (voice < 0)
@@ -84,7 +90,8 @@ bool call_at(const QString& name, int ms) {
     char heard = 0;
     pollfd waits{voice, POLLIN, 0};
     const bool answered = ::connect(voice, general(address), sizeof address) == 0 &&
-                          ::poll(&waits, 1, ms) == 1 && ::recv(voice, &heard, 1, 0) == 1;
+                          ::send(voice, &word, 1, MSG_NOSIGNAL) == 1 && ::poll(&waits, 1, ms) == 1 &&
+                          ::recv(voice, &heard, 1, 0) == 1;
     ::close(voice);
     return answered && heard == answer;
 }

@@ -21,10 +21,10 @@ struct open_ear {
     std::unique_ptr<QSocketNotifier> wakes;
 };
 
-// Listens under a name, for this user alone, and calls back at each call. What a killed program left at
-// the name is swept away. Nothing happens where no socket can be made.
-void listen_at(open_ear&, const QString& name, const std::function<void()>& called);
+// Listens under a name, for this user alone, and calls back at each call with its word, a character. What a
+// killed program left at the name is swept away. Nothing happens where no socket can be made.
+void listen_at(open_ear&, const QString& name, const std::function<void(char word)>& called);
 // Calls whoever listens under the name; false where nobody answers within so many ms.
-bool call_at(const QString& name, int ms);
+bool call_at(const QString& name, char word, int ms);
 
 } // namespace hustle::desktop

@@ -92,8 +92,12 @@ void leave(session& s) {
 void ask_to_leave(session& s) {
     if (s.watched != nullptr)
         return QCoreApplication::exit(0);
-    if (s.held > 0 || !s.started)
+    if (!s.started)
         return;
+    if (s.held > 0) { // a wait of the machine's: the wish is not forgotten over it
+        QTimer::singleShot(again_ms, &s.wake, [&s] { ask_to_leave(s); });
+        return;
+    }
     if (is_loaded(s.g.p, screen::feature) && s.g.m.exiting != 1) {
         hold_machine hold(s);
         QMessageBox box(QMessageBox::Question, {}, "Leave, and lose this game?",

@@ -27,11 +27,15 @@ bool claim_folder(only_one& o, const QString& folder) {
     return o.lock->tryLock(0) || o.lock->error() != QLockFile::LockFailedError;
 }
 
-void listen_for_calls(only_one& o, const QString& folder, const std::function<void()>& called) {
-    listen_at(o.ear, ear_name(folder), called); // what stands there is dead: the lock is ours
+void listen_for_calls(only_one& o, const QString& folder, const std::function<void(wish)>& called) {
+    listen_at(o.ear, ear_name(folder), [called](char word) {
+        called(static_cast<wish>(word));
+    }); // what stands there is dead: the lock is ours
 }
 
-bool call_to_front(const QString& folder) { return call_at(ear_name(folder), answer_ms); }
+bool call_to_front(const QString& folder, wish with) {
+    return call_at(ear_name(folder), static_cast<char>(with), answer_ms);
+}
 
 second ask_second(bool first_is_deaf) {
     QMessageBox box(QMessageBox::Question, {}, "Hoard Hustle is open already.");

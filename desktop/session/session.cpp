@@ -12,12 +12,14 @@
 #include "desktop/window/mainwindow.h"
 #include "desktop/window/viewmenu.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QTime>
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace hustle::desktop {
 
@@ -74,7 +76,9 @@ screenview* open_window(session& s, screen what) {
         view->take_ready(art::startscreen,
                          read_ready(shipped_folder("pictures") + "/splash.rgbx", splash_size));
     } else {
-        view->setParent(s.window, Qt::Window);
+        // A dialog by its kind: only of such a one the toolkit tells the window manager whose it is.
+        view->setParent(s.window, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                      Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
         view->setMinimumSize(view->panel_size() / 2);
     }
     place_side_window(*view, s.window);
@@ -208,19 +212,27 @@ void come_to_front(session& s) {
     top->activateWindow();
 }
 
+void set_reduced_flashing(session& s, bool on) {
+    QAction* const entry = s.window != nullptr ? s.window->findChild<QAction*>("reduced_flashing") : nullptr;
+    s.view.reduced_flashing = on; // no window stands yet: it comes up so
+    if (entry != nullptr)
+        entry->setChecked(on);
+}
+
 void end_session(session& s) {
     finish(s.saving);
     flush_recording(s.record, s.g);
     end_recording(s.record);
-    if (s.window != nullptr && !s.window->isFullScreen())
-        s.view.place = s.window->saveGeometry();
-    save_view_settings(s.view);
+    if (s.window != nullptr)
+        s.view.place = s.window->saveGeometry(); // in full screen: the place that it has otherwise
+    if (s.world.saving)                          // else they are another program's
+        save_view_settings(s.view);
     s.wake.stop();
     s.picture.stop();
     s.ahead.stop();
-    for (screenview* view : s.side)
-        delete view;
-    delete s.window;
+    for (screenview*& view : s.side)
+        delete std::exchange(view, nullptr);
+    delete std::exchange(s.window, nullptr);
     close_sound();
 }
 

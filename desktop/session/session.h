@@ -64,6 +64,8 @@ void start_session(session&);
 void first_painted(session&);
 // Lets the player see it: the window in front, also where it was minimised.
 void come_to_front(session&);
+// The switch of the View menu, from outside.
+void set_reduced_flashing(session&, bool on);
 // Closes what is still open.
 void end_session(session&);
 

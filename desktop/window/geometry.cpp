@@ -28,7 +28,8 @@ void keep_on_screen(QWidget& window, const QRect& area) {
         std::clamp(window.pos().x(), area.left(), std::max(area.left(), area.right() - whole.width() + 1));
     const int y =
         std::clamp(window.pos().y(), area.top(), std::max(area.top(), area.bottom() - whole.height() + 1));
-    window.move(x, y);
+    if (window.pos() != QPoint(x, y)) // a frame that is not known yet would move it at each start
+        window.move(x, y);
 }
 
 } // namespace
@@ -64,15 +65,13 @@ void place_main_window(mainwindow& window, const view_settings& view) {
 }
 
 void show_main_window(mainwindow& window, const view_settings& view) {
-    window.menuBar()->setVisible(!view.full_screen);
-    if (view.full_screen)
-        window.showFullScreen();
-    else
-        window.showNormal();
+    window.setWindowState(window.windowState().setFlag(Qt::WindowFullScreen, view.full_screen));
+    window.show();
 }
 
 void zoom_main_window(mainwindow& window, double zoom) {
-    if (window.isFullScreen() || window.isMaximized())
+    window.leave_full_screen();
+    if (window.isMaximized())
         window.showNormal();
     const QRect area = work_area(window);
     const QSize wanted = (QSizeF(window.main_view().panel_size()) * std::clamp(zoom, smallest, 4.0)).toSize();

@@ -49,8 +49,7 @@ mainwindow::mainwindow(session& s) : played(s), stack(new QStackedWidget(this)) 
 }
 
 QSize mainwindow::bars(int width) const {
-    const int menu = played.view.full_screen ? 0 : menuBar()->sizeHint().height();
-    return {0, menu + (played.view.hints ? hintline::height_at(width) : 0)};
+    return {0, menuBar()->sizeHint().height() + (played.view.hints ? hintline::height_at(width) : 0)};
 }
 
 void mainwindow::show_hints() {
@@ -111,14 +110,17 @@ void mainwindow::make_menus() {
     }
     fill_view_menu(*menuBar()->addMenu("&View"), *this, played);
     full_screen = findChild<QAction*>("full_screen");
-    // A hidden menu bar keeps no shortcuts: the window has them as well.
-    for (QAction* action : findChildren<QAction*>())
-        if (!action->shortcuts().isEmpty())
-            addAction(action);
     auto* quit = new QAction(this);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     QObject::connect(quit, &QAction::triggered, this, &QWidget::close);
     addAction(quit);
+    for (QAction* action : findChildren<QAction*>()) // in the side windows too
+        action->setShortcutContext(Qt::ApplicationShortcut);
+}
+
+void mainwindow::leave_full_screen() {
+    if (isFullScreen())
+        full_screen->setChecked(false);
 }
 
 void mainwindow::refresh_menus() {
@@ -175,7 +177,7 @@ void mainwindow::keyPressEvent(QKeyEvent* event) {
     if (code != 0)
         send(played, {input::kind::key, shown_screen(), element::total, code});
     else if (event->key() == Qt::Key_Escape && isFullScreen())
-        full_screen->setChecked(false);
+        leave_full_screen();
     else
         event->ignore();
 }

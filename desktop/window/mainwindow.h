@@ -22,6 +22,7 @@ public:
     QSize bars(int width) const;
     // Shows or hides the hint line, as the settings say.
     void show_hints();
+    void leave_full_screen();
     // Everything is drawn anew.
     void repaint_all();
 

@@ -65,7 +65,7 @@ def refill_in_a_payout(machine):
     machine.click(*COLLECT, BOARD)
     machine.until(feature__loaded="false")  # the count begins
     machine.menu("g", "r")
-    machine.window("Statistics Screen")
+    machine.front(machine.window("Statistics Screen"))  # it closes where it loses the keys
     machine.click_in("Statistics Screen", 260 / 368, 249 / 283)  # Reset
     machine.key_in("Reset Machine Statistics", "alt+y")
     machine.gone("Reset Machine Statistics")

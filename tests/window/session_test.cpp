@@ -7,6 +7,7 @@
 #include "desktop/session/onlyone.h"
 #include "desktop/session/session.h"
 #include "desktop/session/watch.h"
+#include "desktop/window/geometry.h"
 #include "desktop/window/mainwindow.h"
 #include "screens/events.h"
 #include "script/dump.h"
@@ -14,11 +15,14 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTemporaryDir>
+#include <QWindow>
 
 #include <csignal>
 #include <thread>
@@ -58,7 +62,10 @@ struct program {
     }
     void start() {
         start_session(s);
-        until([this] { return s.window != nullptr && s.started && is_loaded(s.g.p, screen::main); });
+        until([this] {
+            return s.window != nullptr && s.window->isVisible() && s.started &&
+                   is_loaded(s.g.p, screen::main);
+        });
     }
     // Runs the windows until it is so, or the program has ended.
     template <class Test> void until(const Test& so) {
@@ -237,6 +244,52 @@ TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
     EXPECT_EQ(p.stored("game.dat"), "");
 }
 
+TEST(Session, ComesBackWithTheSizeItHasOutsideFullScreen) {
+    const QSize wanted(700, 600);
+    view_settings kept;
+    kept.flashing_asked = true;
+    const auto leave = [&](program& p) {
+        end_session(p.s);
+        kept = load_view_settings();
+    };
+    {
+        program p;
+        p.start();
+        p.s.window->resize(wanted);
+        p.s.window->findChild<QAction*>("full_screen")->setChecked(true);
+        EXPECT_TRUE(p.s.window->isFullScreen());
+        EXPECT_TRUE(p.s.window->menuBar()->isVisible()) << "Game, New must be in reach";
+        leave(p);
+    }
+    {
+        program p;
+        p.s.view = kept;
+        p.start();
+        EXPECT_TRUE(p.s.window->isFullScreen());
+        zoom_main_window(*p.s.window, 0.75); // leaves it
+        EXPECT_FALSE(p.s.view.full_screen);
+        EXPECT_EQ(p.s.window->main_view().width(), 600);
+        p.s.window->resize(wanted);
+        leave(p);
+    }
+    program p;
+    p.s.view = kept;
+    p.start();
+    EXPECT_FALSE(p.s.window->isFullScreen());
+    EXPECT_EQ(p.s.window->size(), wanted);
+}
+
+// The window manager learns whose a form is from a dialog alone: any other can be lost behind main.
+TEST(Session, OpensItsFormsAboveMain) {
+    program p;
+    p.start();
+    send(p.s, {input::kind::press, screen::main, element::rguidemenu});
+    const QWidget* const guide = p.s.side[static_cast<std::size_t>(screen::reelguide)];
+    ASSERT_NE(guide, nullptr);
+    EXPECT_EQ(guide->windowType(), Qt::Dialog);
+    EXPECT_EQ(guide->windowHandle()->transientParent(), p.s.window->windowHandle());
+}
+
 TEST(Session, IsTheOnlyOneOnItsFiles) {
     const QTemporaryDir folder;
     const pid_t child = ::fork();
@@ -251,11 +304,11 @@ TEST(Session, IsTheOnlyOneOnItsFiles) {
     only_one first, second;
     ASSERT_TRUE(claim_folder(first, folder.path())) << "the lock outlived its process";
     EXPECT_FALSE(claim_folder(second, folder.path()));
-    EXPECT_FALSE(call_to_front(folder.path())) << "nobody listens yet";
+    EXPECT_FALSE(call_to_front(folder.path(), wish::to_front)) << "nobody listens yet";
     bool called = false;
-    listen_for_calls(first, folder.path(), [&] { called = true; });
+    listen_for_calls(first, folder.path(), [&](wish asked) { called = asked == wish::reduced_flashing; });
     bool answered = false;
-    std::thread caller([&] { answered = call_to_front(folder.path()); });
+    std::thread caller([&] { answered = call_to_front(folder.path(), wish::reduced_flashing); });
     while (!called)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::processEvents();
