@@ -2,8 +2,8 @@
 the first painted frame, the memory at rest on main and on the board, and the processor's time at
 rest and in play, at two widths, all in one run.
 
-Usage: bench/window.py build/release/bin/hoardhustle build/release/bin/emptywindow \
-    build/release/bin/hustlescript
+Usage: bench/window.py build/release/bin/hoardhustle build/release/bin/hustlescript \
+    build/release/bin/emptywindow
 """
 
 import os
@@ -13,9 +13,9 @@ import sys
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../tests/window"))
-from window import Display, Machine, ask, run  # noqa: E402
+from window import PROGRAM, Display, Machine, ask, run  # noqa: E402
 
-PROGRAM, EMPTY, SCRIPT = sys.argv[1:4]
+EMPTY = sys.argv[3]
 RUNS = 11
 REST = 5         # seconds of rest that are measured
 PLAY = 12        # seconds of play
@@ -61,7 +61,7 @@ def share(process, seconds, act=lambda: None):
 
 def seed_of_a_line():
     for seed in range(1, 2000):
-        told = ask(SCRIPT, f"seed {seed}\npress main.start\nrun {TO_THE_BOARD * 1000}\n"
+        told = ask(f"seed {seed}\npress main.start\nrun {TO_THE_BOARD * 1000}\n"
                    "get feature.loaded featuremode\n")
         if (told["feature.loaded"], told["featuremode"]) == ("true", "hilo"):
             return seed
@@ -77,7 +77,7 @@ def frames(env):
 
 def memory(display, folder, env):
     empty = subprocess.Popen([EMPTY], env=env, stdout=subprocess.DEVNULL)
-    machine = Machine(PROGRAM, display, seed_of_a_line(), folder)
+    machine = Machine(display, seed_of_a_line(), folder)
     try:
         time.sleep(4)  # the pictures have been drawn ahead
         told = [("an empty window", megabytes(empty)), ("main at rest", megabytes(machine.process))]
@@ -94,7 +94,7 @@ def memory(display, folder, env):
 
 
 def processor(display, folder, width):
-    machine = Machine(PROGRAM, display, 3, folder)
+    machine = Machine(display, 3, folder)
     try:
         machine.xdo("windowsize", "--sync", machine.main, width, width * 3 // 4)
         time.sleep(6)  # the pictures have been drawn anew
