@@ -54,6 +54,10 @@ int find_policy(std::string_view name) {
 
 move monkey(const sight& s, memory& m) {
     const int after = splitmix_draw(m.dice, 150);
+    constexpr int most_lost = 20'000; // half an hour's presses: Start stays dark, as get_on tells
+    m.lost = s.live(start) ? 0 : m.lost + 1;
+    if (m.lost > most_lost)
+        return {newgame, after};
     if (!s.has_credit() && !s.money_in_bank())
         if (const element money = find_money(s, m); money != no_press)
             return {money};
