@@ -1,0 +1,167 @@
+// What the window shows: painted piece by piece as the machine goes from state to state it must be the
+// picture that a window painted at once would be, and each lamp and line must be seen, in its own place.
+#include "art/lamplooks.h"
+#include "core/upward.h"
+#include "panel/sheet.h"
+#include "script/commands.h"
+#include "script/reading.h"
+#include "tests/window/program.h"
+#include "trail/trail.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QScreen>
+#include <QWindow>
+
+#include <sstream>
+
+namespace hustle::desktop {
+
+namespace {
+
+struct seen : program {
+    seen() {
+        start();
+        ++s.held; // the panel changes by our hand alone
+        s.view.hints = false;
+        s.window->show_hints();
+    }
+    ~seen() { --s.held; }
+
+    void settle(int ms = 40) {
+        refresh(s);
+        QElapsedTimer since;
+        since.start();
+        do
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+        while (since.elapsed() < ms);
+    }
+    void stand_in(const QString& script) {
+        std::string text;
+        ASSERT_EQ(script::read_script_file(script.toStdString(), text), "");
+        std::ostringstream unheard;
+        script::run_script(text, "state", unheard, unheard, [this](const game& g) {
+            s.g.m = g.m, s.g.b = g.b, s.g.t = g.t, s.g.p = g.p;
+            for (element_state& e : s.g.p.elements)
+                e.touched = true;
+        });
+        settle(100);
+    }
+    // The window's pixels as they stand on the screen, painted by parts; and as it would paint them now.
+    QImage on_screen() const {
+        return s.window->screen()
+            ->grabWindow(s.window->winId())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32);
+    }
+    QImage painted_anew() const { return s.window->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    // What is painted by parts comes to be what is painted whole, and stays so: pictures may still be drawn.
+    bool comes_whole() {
+        for (int tries = 0; tries < 100; ++tries) {
+            if (on_screen() == painted_anew())
+                return true;
+            settle(50);
+        }
+        return false;
+    }
+
+    // What a change of one element changes on the screen.
+    template <class First, class Second> QRect changed_by(const First& first, const Second& second) {
+        first(s.g.p);
+        settle();
+        const QImage before = on_screen();
+        second(s.g.p);
+        settle();
+        const QImage after = on_screen();
+        QRect changed;
+        for (int y = 0; y < after.height(); ++y)
+            for (int x = 0; x < after.width(); ++x)
+                if (before.pixel(x, y) != after.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+        return changed;
+    }
+    QRect place(element e) {
+        const screenview& view =
+            row(e).where == screen::main ? s.window->main_view() : s.window->board_view();
+        return view.widget_rect(e).translated(view.mapTo(s.window, QPoint()));
+    }
+    // Of a lit label's glow; a picture's edge lies between two pixels at most sizes.
+    static QMargins reach_of(element e) {
+        const int reach = row(e).what == kind::label ? glow_reach + 2 : 2;
+        return {reach, reach, reach, reach};
+    }
+    void changes_itself_alone(element e, QRect changed) {
+        const std::string name(row(e).name);
+        EXPECT_TRUE(comes_whole()) << name << " leaves something stale";
+        ASSERT_FALSE(changed.isEmpty()) << name << " is not seen to change";
+        EXPECT_TRUE(place(e).marginsAdded(reach_of(e)).contains(changed))
+            << name << " changes " << changed.x() << "," << changed.y() << " " << changed.width() << "x"
+            << changed.height();
+    }
+};
+
+TEST(Seen, PaintedByPartsIsPaintedWhole) {
+    seen w;
+    int compared = 0;
+    for (const QString& name : QDir(STATES).entryList({"*.txt"}, QDir::Files, QDir::Name)) {
+        w.stand_in(QDir(STATES).filePath(name));
+        if (w.painted_anew() != w.painted_anew())
+            continue; // something moves in it
+        ++compared;
+        EXPECT_TRUE(w.comes_whole()) << name.toStdString();
+        w.s.window->resize(compared % 2 == 0 ? QSize(800, 620) : QSize(1000, 760));
+        w.settle(50);
+        EXPECT_TRUE(w.comes_whole()) << name.toStdString() << " at another size";
+    }
+    EXPECT_GE(compared, 8);
+}
+
+// The lit look of a dark lamp's picture; art::none where it has none.
+art light_of(art dark) {
+    std::string wanted(name(dark));
+    const std::size_t at = wanted.find("dark");
+    if (at == std::string::npos)
+        return art::none;
+    wanted.replace(at, 4, "light");
+    for (std::size_t a = 0; a < art_count; ++a)
+        if (name(static_cast<art>(a)) == wanted)
+            return static_cast<art>(a);
+    return art::none;
+}
+
+TEST(Seen, EachLampAndLineChangesItsOwnPlaceAlone) {
+    seen w;
+    w.s.window->resize(800, 620);
+    w.settle(300);
+    int lamps = 0;
+    for (const screen where : {screen::main, screen::feature}) {
+        if (where == screen::feature)
+            load_screen(w.s.g, screen::feature);
+        w.settle(300);
+        for (const element_row& r : elements_of(where)) {
+            const art light = light_of(r.picture);
+            if (light == art::none || !r.visible)
+                continue;
+            ++lamps;
+            w.changes_itself_alone(r.id, w.changed_by([&](panel& p) { set_picture(p, r.id, r.picture); },
+                                                      [&](panel& p) { set_picture(p, r.id, light); }));
+        }
+        const element line = where == screen::main ? element::displayline : element::feature_displayline;
+        w.changes_itself_alone(
+            line, w.changed_by([&](panel& p) { set_caption(p, line, ""); },
+                               [&](panel& p) { set_caption(p, line, "WWWWWWWWWWWWWWWWWWWWWWWWWW"); }));
+    }
+    EXPECT_GE(lamps, 30);
+    unload_screen(w.s.g, screen::feature);
+    w.settle(300);
+    for (int n = 1; n <= 9; ++n)
+        w.changes_itself_alone(
+            nth(element::numberone, n),
+            w.changed_by([&](panel&) { dark_lamp(w.s.g, n); }, [&](panel&) { light_lamp(w.s.g, n); }));
+}
+
+} // namespace
+
+} // namespace hustle::desktop
