@@ -145,9 +145,13 @@ class Machine:
         self.key(*names)
 
     def menu(self, menu, entry):
-        """Opens a menu by Alt and its letter, and takes an entry by its letter."""
+        """Opens a menu by Alt and its letter, and takes an entry by its letter once the menu stands."""
         self.front(self.main)
-        self.key("alt+" + menu, entry)
+        before = set(self.find(""))
+        self.key("alt+" + menu)
+        opened = self.wait(f"the menu {menu} opens", lambda: set(self.find("")) - before)
+        self.key(entry)
+        self.wait(f"the menu {menu} closes", lambda: not opened & set(self.find("")))
 
     def click_at(self, window, place):
         """A click on the point of a window that `place` tells from its width and height."""
@@ -228,5 +232,12 @@ def run(test):
     """Runs a test with a display and a folder that are gone afterwards."""
     skip_without_tools()
     with Display() as display, tempfile.TemporaryDirectory() as folder:
-        test(display, folder)
+        try:
+            test(display, folder)
+        except AssertionError:
+            session = os.path.join(folder, "session.txt")
+            if os.path.exists(session):
+                with open(session, encoding="utf-8") as file:
+                    print("the session ended with\n" + "".join(file.readlines()[-30:]))
+            raise
     print("played")
