@@ -28,9 +28,8 @@ void boot_to_main(game& g) {
     reset_game(g, noon);
     boot(g);
     timer tick{};
-    while (!is_loaded(g.p, screen::main) && take_tick(g.p, for_ever, tick))
-        run_tick(g, tick);
-    settle(g);
+    while (!is_loaded(g.p, screen::main) && deliver_one(g, for_ever, tick)) {
+    }
 }
 
 void tell_start(const seat& s, std::string& script) {
@@ -101,7 +100,7 @@ std::string first_file(const terms& t) {
     boot_to_main(*g);
     g->m.moneyin = static_cast<single>(t.moneyin);
     g->m.moneyout = static_cast<single>(t.moneyout);
-    g->m.soundstate = "off"; // nobody listens
+    g->m.soundstate = setting::off; // nobody listens
     return game_text(g->m);
 }
 

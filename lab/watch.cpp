@@ -52,7 +52,7 @@ constexpr chain_row chains[] = {
 void line_or_ring(seat& s) {
     if (!is_loaded(s.g.p, screen::feature))
         return;
-    const bool ring = s.g.m.featuremode == "feature";
+    const bool ring = s.g.m.featuremode == mode::feature;
     ++s.sum.times[static_cast<std::size_t>(ring ? feature::ring_opened : feature::gamble_opened)];
     watch& w = s.seen;
     w.way = ring          ? source::cash
@@ -62,12 +62,12 @@ void line_or_ring(seat& s) {
                           : source::line;
 }
 void gamble(seat& s) {
-    if (s.g.m.featuremode == "hilo")
+    if (s.g.m.featuremode == mode::hilo)
         s.seen.way = source::gamble;
 }
 void belt(seat& s) {
     if (s.g.b.beltphase == 0 || s.g.b.beltphase == 1)
-        s.seen.way = s.g.m.award == "moneybelt" ? source::creepy_cash : source::super_creepy;
+        s.seen.way = s.g.m.award == award::moneybelt ? source::creepy_cash : source::super_creepy;
 }
 void jackpot(seat& s) {
     source& way = s.seen.way;
@@ -79,7 +79,7 @@ void jackpot(seat& s) {
 }
 void streak(seat& s) { s.seen.way = s.g.m.streaktotal == 0 ? source::run_for_it : source::streak; }
 void repeat(seat& s) {
-    if (s.g.m.award == "jackpot" && is_running(s.g.p, timer::wintobank)) {
+    if (s.g.m.award == award::jackpot && is_running(s.g.p, timer::wintobank)) {
         s.seen.way = source::repeat;
         s.play.staked += stake_units; // a repeat takes a credit
     }
@@ -171,8 +171,12 @@ void notice_tick(seat& s, timer t) {
 
 void before_press(seat& s) {
     const machine& m = s.g.m;
-    s.was = {
-        m.bank, m.win, m.credits, m.nudges, is_running(s.g.p, timer::bonus_timer), m.holdsoffered == "yes"};
+    s.was = {m.bank,
+             m.win,
+             m.credits,
+             m.nudges,
+             is_running(s.g.p, timer::bonus_timer),
+             m.holdsoffered == flag::yes};
 }
 
 void after_press(seat& s, element e) {
@@ -181,7 +185,7 @@ void after_press(seat& s, element e) {
     if (s.was.wheel && !is_running(s.g.p, timer::bonus_timer)) {
         const auto pick = static_cast<std::size_t>(s.g.m.bonuspick - 1);
         ++s.sum.times[static_cast<std::size_t>(feature::trail_skill) + pick];
-        if (s.g.m.award == "winspins")
+        if (s.g.m.award == award::winspins)
             s.seen.way = source::spin_a_win;
     }
     if (s.was.nudges > 0 && s.was.win < 1 && s.g.m.win >= 1)

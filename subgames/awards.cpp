@@ -17,7 +17,7 @@ constexpr int wait_ticks = 10;
 void feature_start_thin_ice(game& g) {
     if (still_waiting(g.b.shortwait, wait_ticks))
         return;
-    g.b.yesnoanswer = ""; // no answer before the first tick
+    g.b.yesnoanswer = {}; // no answer before the first tick
     start_timer(g.p, timer::feature_yesorno);
     g.b.shortwait = 1;
     enable(g.p, feature_stopfeature);
