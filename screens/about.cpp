@@ -1,21 +1,18 @@
 // The about box.
 
 #include "core/upward.h"
-#include "panel/text.h"
 #include "screens/sidescreens.h"
 
 namespace hustle {
 
 namespace {
 constexpr std::string_view program_title = "Hoard Hustle";
-constexpr std::string_view program_revision = ".0"; // after the version that every title bears
 } // namespace
 
 void About_load(game& g) {
     set_title(g.p, screen::About, "About Hoard Hustle");
     set_caption(g.p, element::About_lblTitle, program_title);
-    set_caption(g.p, element::About_lblVersion,
-                short_text("Version ").add(version_text).add(program_revision));
+    set_caption(g.p, element::About_lblVersion, "Version 2.0.2"); // major, minor, revision of 2.02
 }
 
 void About_ok(game& g) { unload_screen(g, screen::About); }

@@ -112,7 +112,7 @@ result so_far(const result& begun, const work& w) {
     return r;
 }
 
-// A disk that is full for now costs no play: the next saving may go well, and the last one counts.
+// A full disk costs no play: the next saving may go well, and the last one counts.
 void save_meanwhile(const result& r, const std::string& name) {
     try {
         save(r, name);
