@@ -86,7 +86,7 @@ TEST(Files, ADamagedFileGivesTheFirstContentsAndAWord) {
     EXPECT_TRUE(t.world.boxes.empty()) << "a missing file is no fault";
     t.world.files[0] = "rubbish";
     t.world.files[1] = table_text(t.g.m);
-    t.start();
+    t.boot_up();
     ASSERT_EQ(t.world.boxes.size(), 1u);
     EXPECT_NE(t.world.boxes[0].find("game.dat.damaged"), std::string::npos);
     EXPECT_EQ(t.g.m.moneyin, 100);

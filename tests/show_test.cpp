@@ -31,7 +31,7 @@ struct Show : testing::Test, testgame {
     stage s;
 
     void SetUp() override {
-        start();
+        boot_up();
         testgame::run(50);
         look();
     }

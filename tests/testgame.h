@@ -41,18 +41,26 @@ struct testgame {
     testworld world;
     game g{world};
 
-    testgame() { start(); } // booted, with main in front
+    testgame() { boot_up(); } // booted, with main in front
     // As it stands before any screen is loaded, with the generator at a seed.
     explicit testgame(std::uint64_t seed) {
         world.state = seed;
         reset_game(g, 0);
     }
-    void start() {
+    void boot_up() {
         reset_game(g, 43200000);
         boot(g);
         run(350);
     }
     void run(int ms) { deliver(g, g.p.now + ms); }
+    // Delivers ticks until a timer runs; false where a minute of the machine's has passed first.
+    bool until(timer t) {
+        const std::int64_t end = g.p.now + 60'000;
+        for (timer tick{}; !is_running(g.p, t);)
+            if (!deliver_one(g, end, tick))
+                return false;
+        return true;
+    }
     bool press(element e) { return apply(g, {.what = input::kind::press, .on = e}); }
 };
 
