@@ -13,7 +13,7 @@ using namespace hustle::lab;
 
 namespace {
 
-constexpr int most_machines = 256;   // each takes some 200 kB with its two ways home
+constexpr int most_here = 256;       // each takes some 200 kB with its two ways home
 constexpr number round_plays = 2000; // the machines of a run are never further apart
 
 // A machine that counts, and its ways home beside it.
@@ -92,9 +92,8 @@ int hl_policies(void) {
 
 int hl_begin(int policy, int machines, double plays, unsigned seed_low, unsigned seed_high, int reaction,
              int rung) {
-    if (policy < 0 || policy >= static_cast<int>(policies().size()) || machines < 1 ||
-        machines > most_machines || !(plays >= 1 && plays <= 1e10) || reaction < 0 || reaction > 10'000 ||
-        rung < 1 || rung > 10)
+    if (policy < 0 || policy >= static_cast<int>(policies().size()) || machines < 1 || machines > most_here ||
+        !(plays >= 1 && plays <= 1e10) || reaction < 0 || reaction > 10'000 || rung < 1 || rung > 10)
         return 0;
     lab.t = {.policy = policy,
              .machines = machines,
