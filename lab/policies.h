@@ -34,7 +34,8 @@ struct memory {
     bool promised = false;       // the machine has told to spin without a hold
     int nudges = 0;              // in hand
     int climb = 0;               // lamps that stood at the last catch of a Trail Climber
-    int lost = 0;                // presses without a reason since the last Start
+    int lost = 0;                // presses without a reason, one after another
+    std::int64_t lost_at = 0;    // ms: of the last of them
     int shots = 0;               // with which the shots game began
 };
 

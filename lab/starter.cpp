@@ -31,9 +31,12 @@ template <std::size_t n> element in_turn(const sight& s, const memory& m, const 
 
 // No lamp tells what to do. Under the attract mode the stops of Reel Skill do not flash; and a promise whose
 // pair was nudged away ends with a dark Start, which only a new game brings back.
-element press_anything(memory& m) {
-    constexpr int most_lost = 30; // minutes
-    return ++m.lost <= most_lost ? nth(hold1, splitmix_draw(m.dice, 3)) : newgame;
+element press_anything(const sight& s, memory& m) {
+    constexpr int most_lost = 57;       // minutes: an hour is the patience that a run has unless told
+    constexpr std::int64_t row = 75000; // ms: one such press after another
+    m.lost = m.last != start && s.now() - m.lost_at < row ? m.lost + 1 : 1;
+    m.lost_at = s.now();
+    return m.lost <= most_lost ? nth(hold1, splitmix_draw(m.dice, 3)) : newgame;
 }
 
 } // namespace
@@ -77,7 +80,6 @@ element get_on(const sight& s, memory& m) {
     if (can_start && (!s.live(stopper) || m.last != start)) {
         if (s.last_credit() && s.money_in_bank() && m.last != transfer)
             return transfer;
-        m.lost = 0;
         return start;
     }
     if (s.nudge_lamps() || s.shows(hold1, art::stoppiclight))
@@ -86,7 +88,7 @@ element get_on(const sight& s, memory& m) {
         return hold3;
     if (!s.has_credit())
         return find_money(s, m);
-    return out_of_patience(s, m) ? press_anything(m) : no_press;
+    return out_of_patience(s, m) ? press_anything(s, m) : no_press;
 }
 
 move starter(const sight& s, memory& m) { return {get_on(s, m)}; }
