@@ -75,15 +75,19 @@ def frames(env):
     print(f"first frame: {ours:.0f} ms, an empty window {empty:.0f} ms, ratio {ours / empty:.2f}")
 
 
-def memory(display, folder, env):
+def memory(display, folder, env, width):
+    """At rest, in the size that the window opens in, or `width` pixels wide."""
     empty = subprocess.Popen([EMPTY], env=env, stdout=subprocess.DEVNULL)
     machine = Machine(display, seed_of_a_line(), folder)
+    size = f"{width} wide" if width else "as it opens"
     try:
+        if width:
+            machine.xdo("windowsize", "--sync", machine.main, width, width * 3 // 4)
         time.sleep(4)  # the pictures have been drawn ahead
-        told = [("an empty window", megabytes(empty)), ("main at rest", megabytes(machine.process))]
+        told = [("an empty window", megabytes(empty)), (f"main {size}", megabytes(machine.process))]
         machine.key("space")
         time.sleep(TO_THE_BOARD + 4)
-        told.append(("the board at rest", megabytes(machine.process)))
+        told.append((f"the board {size}", megabytes(machine.process)))
     finally:
         machine.stop()
         empty.kill()
@@ -109,7 +113,8 @@ def measure(display, folder):
     env = dict(os.environ, DISPLAY=display.name, HUSTLE_DATA=folder, HUSTLE_FIRST_FRAME="1",
                SDL_AUDIODRIVER="dummy", QT_QPA_PLATFORM="xcb")
     frames(env)
-    memory(display, folder, env)
+    for width in (WIDTHS[0], None):
+        memory(display, folder, env, width)
     for width in WIDTHS:
         with Display(f"{max(WIDTHS) + 100}x{max(WIDTHS) * 3 // 4 + 100}") as wide:
             processor(wide, folder, width)

@@ -46,10 +46,11 @@ void tell_message(QtMsgType type, const QMessageLogContext&, const QString& text
 }
 
 // Pictures come and go. The allocator would learn from the first that goes to keep the next ones in its
-// heap, where they are not given back to the system.
+// heap, where they are not given back to the system; and threads that take turns need no heap each.
 void keep_large_pieces_apart() {
 #ifdef __GLIBC__
     ::mallopt(M_MMAP_THRESHOLD, 64 * 1024);
+    ::mallopt(M_ARENA_MAX, 1);
 #endif
 }
 

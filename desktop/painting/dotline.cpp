@@ -2,6 +2,7 @@
 
 #include "art/dotfont.h"
 #include "desktop/painting/colours.h"
+#include "desktop/painting/keeping.h"
 
 #include <algorithm>
 #include <cmath>
@@ -46,28 +47,27 @@ QColor dot_colour(QColor lamp, ground look, bool flash) {
     return flash ? mix(QColor(22, 16, 18), lamp, 0.52) : mix(QColor(24, 18, 20), lamp, 0.11);
 }
 
-QImage draw_ground(QSize size, QColor lamp, ground look, bool flash) {
+QPixmap draw_ground(QSize size, QColor lamp, ground look, bool flash) {
     QImage image(size, QImage::Format_RGB32);
     const QColor glass = flash ? mix(QColor(8, 6, 8), lamp, 0.22) : mix(QColor(9, 7, 9), lamp, 0.02);
     image.fill(glass);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    const grid g = grid_of(size);
-    const QColor dot = dot_colour(lamp, look, flash);
-    for (int row = 0; row < glyph_rows; ++row)
-        for (int column = 0; column < g.columns; ++column) {
-            const QRect cell = g.dot(column, row);
-            if (look == ground::lit)
-                painter.fillRect(cell, mix(glass, lamp, flash ? 0.45 : 0.42)); // the bloom round a lit dot
-            painter.setBrush(dot);
-            const double radius = 0.5 * std::min(cell.width(), cell.height());
-            painter.drawEllipse(QRectF(cell).center(), radius, std::max(radius, 0.46 * cell.height()));
-        }
-    return image;
+    const QColor bloom = mix(glass, lamp, flash ? 0.45 : 0.42); // round a lit dot
+    return draw_to_keep(std::move(image), [&](QPainter& painter) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(dot_colour(lamp, look, flash));
+        const grid g = grid_of(size);
+        for (int row = 0; row < glyph_rows; ++row)
+            for (int column = 0; column < g.columns; ++column) {
+                const QRect cell = g.dot(column, row);
+                if (look == ground::lit)
+                    painter.fillRect(cell, bloom);
+                const double radius = 0.5 * std::min(cell.width(), cell.height());
+                painter.drawEllipse(QRectF(cell).center(), radius, std::max(radius, 0.46 * cell.height()));
+            }
+    });
 }
 
-const QImage& ground_of(dot_store& store, QSize size, colour dots, ground look, bool flash) {
+const QPixmap& ground_of(dot_store& store, QSize size, colour dots, ground look, bool flash) {
     const quint64 key =
         (static_cast<quint64>(dots & 0xFFFFFF) << 40) | (static_cast<quint64>(size.width()) << 20) |
         (static_cast<quint64>(size.height()) << 2) | (flash ? 2U : 0U) | (look == ground::lit ? 1U : 0U);
@@ -84,8 +84,8 @@ int cells_of(double width, double height) { return width > 5 * height ? line_cel
 void draw_dot_line(QPainter& painter, dot_store& store, QRect box, const QString& text, colour dots,
                    bool flash, int run) {
     const grid g = grid_of(box.size());
-    painter.drawImage(box.topLeft(), ground_of(store, box.size(), dots, ground::dark, flash));
-    const QImage& lit = ground_of(store, box.size(), dots, ground::lit, flash);
+    painter.drawPixmap(box.topLeft(), ground_of(store, box.size(), dots, ground::dark, flash));
+    const QPixmap& lit = ground_of(store, box.size(), dots, ground::lit, flash);
     const QList<uint> letters = text.toUcs4();
     for (qsizetype cell = 0; cell < letters.size(); ++cell) {
         const int left = static_cast<int>(cell) * cell_columns - run;
@@ -99,7 +99,7 @@ void draw_dot_line(QPainter& painter, dot_store& store, QRect box, const QString
                     !((shape.rows[static_cast<std::size_t>(row)] >> (glyph_columns - 1 - column)) & 1))
                     continue;
                 const QRect dot = g.dot(left + column, row);
-                painter.drawImage(box.topLeft() + dot.topLeft(), lit, dot);
+                painter.drawPixmap(box.topLeft() + dot.topLeft(), lit, dot);
             }
     }
 }

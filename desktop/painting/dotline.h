@@ -4,8 +4,8 @@
 #include "panel/panel.h"
 
 #include <QHash>
-#include <QImage>
 #include <QPainter>
+#include <QPixmap>
 #include <QString>
 
 namespace hustle::desktop {
@@ -19,7 +19,7 @@ int cells_of(double width, double height);
 // Whole lines with every dot lit or dark, by colour, look and size: what a text is put together
 // from.
 struct dot_store {
-    QHash<quint64, QImage> grounds;
+    QHash<quint64, QPixmap> grounds;
 };
 
 // Draws `text` into `box`, given in device pixels; what goes beyond the right end is cut. With

@@ -1,28 +1,11 @@
 #include "desktop/painting/lamplooks.h"
 
 #include "art/lamplooks.h"
-
-#include <QSvgRenderer>
+#include "desktop/painting/keeping.h"
 
 #include <cmath>
 
 namespace hustle::desktop {
-
-namespace {
-
-QPixmap draw_pixmap(const element_row& r, const element_state& state, QSize size) {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    const std::string text = lamp_svg(r, state);
-    QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
-    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    return pixmap;
-}
-
-} // namespace
 
 void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const element_state& state,
                QRect box, double pixel) {
@@ -37,7 +20,7 @@ void draw_lamp(QPainter& painter, lamp_store& store, const element_row& r, const
                             .arg(whole.height());
     auto found = store.drawn.constFind(key);
     if (found == store.drawn.cend())
-        found = store.drawn.insert(key, draw_pixmap(r, state, whole.size()));
+        found = store.drawn.insert(key, draw_svg(lamp_svg(r, state), whole.size()));
     painter.drawPixmap(whole.topLeft(), *found);
 }
 

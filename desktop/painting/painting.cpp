@@ -2,6 +2,7 @@
 
 #include "art/lamplooks.h"
 #include "desktop/painting/colours.h"
+#include "desktop/painting/keeping.h"
 #include "desktop/painting/lettering.h"
 #include "show/places.h"
 
@@ -197,24 +198,23 @@ namespace {
 
 // Light that fades from the frame of the win line inwards, seen on white, with a bright thread on it.
 QPixmap draw_glow(QSize size, double pixel) {
-    QPixmap picture(size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const auto frame = [&](QColor light, double inset, double width) {
+    const auto frame = [&](QPainter& painter, QColor light, double inset, double width) {
         const double in = inset * pixel;
         painter.setPen(QPen(light, width * pixel));
         painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(in, in, -in, -in), 9 * pixel, 9 * pixel);
     };
-    constexpr int rings = 6;
-    for (int ring = rings; ring >= 0; --ring) {
-        const double far = static_cast<double>(ring) / rings;
-        QColor light = mix(QColor(255, 72, 0), QColor(255, 190, 40), far);
-        light.setAlphaF(static_cast<float>(1 - 0.85 * far));
-        frame(light, 3 + 3 * ring, ring == 0 ? 3.6 : 3.2);
-    }
-    frame(QColor(255, 244, 190), 3, 1.2);
-    return picture;
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    return draw_to_keep(std::move(picture), [&](QPainter& painter) {
+        constexpr int rings = 6;
+        for (int ring = rings; ring >= 0; --ring) {
+            const double far = static_cast<double>(ring) / rings;
+            QColor light = mix(QColor(255, 72, 0), QColor(255, 190, 40), far);
+            light.setAlphaF(static_cast<float>(1 - 0.85 * far));
+            frame(painter, light, 3 + 3 * ring, ring == 0 ? 3.6 : 3.2);
+        }
+        frame(painter, QColor(255, 244, 190), 3, 1.2);
+    });
 }
 
 } // namespace

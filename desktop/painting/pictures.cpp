@@ -1,10 +1,7 @@
 #include "desktop/painting/pictures.h"
 
 #include "art/art.h"
-
-#include <QByteArray>
-#include <QPainter>
-#include <QSvgRenderer>
+#include "desktop/painting/keeping.h"
 
 namespace hustle::desktop {
 
@@ -13,7 +10,6 @@ namespace {
 using enum element;
 
 constexpr coming_art main_arts[] = {
-    {art::back, art::back, background},
     {art::holdpicdark, art::cancelpiclight, hold1},
     {art::startpicdark, art::startpiclight, start},
     {art::nudgenowpicdark, art::nudgenowpiclight, nudgenow},
@@ -21,8 +17,6 @@ constexpr coming_art main_arts[] = {
     {art::title, art::title2, toplogo},
 };
 constexpr coming_art feature_arts[] = {
-    {art::back, art::back, feature_background},
-    {art::buttonbarpic, art::buttonbarpic, feature_buttonbar},
     {art::dice1pic, art::spineffect4, feature_dicepic},
     {art::fstoppicdark, art::exchangepiclight, feature_startbutton},
     {art::hipicdark, art::lopiclight, feature_hibutton},
@@ -38,17 +32,7 @@ quint64 key(art a, QSize size) {
 
 } // namespace
 
-QPixmap draw_art(art a, QSizeF size, bool dollars) {
-    QPixmap pixmap(size.toSize());
-    pixmap.fill(Qt::transparent);
-    const std::string text = svg(a, dollars);
-    QSvgRenderer renderer(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
-    renderer.render(&painter, QRectF(QPointF(0, 0), size));
-    return pixmap;
-}
+QPixmap draw_art(art a, QSizeF size, bool dollars) { return draw_svg(svg(a, dollars), size); }
 
 const QPixmap& picture(picture_store& store, art a, QSize size) {
     const auto sharp = store.sharp.constFind(key(a, size));

@@ -73,8 +73,6 @@ screenview* open_window(session& s, screen what) {
     auto* view = new screenview(s, what);
     if (what == screen::software) {
         view->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-        view->take_ready(art::startscreen,
-                         read_ready(shipped_folder("pictures") + "/splash.rgbx", splash_size));
     } else {
         // A dialog by its kind: only of such a one the toolkit tells the window manager whose it is.
         view->setParent(s.window, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -82,6 +80,9 @@ screenview* open_window(session& s, screen what) {
         view->setMinimumSize(view->panel_size() / 2);
     }
     place_side_window(*view, s.window);
+    if (what == screen::software)
+        view->take_ready(art::startscreen,
+                         read_ready(shipped_folder("pictures") + "/splash.rgbx", splash_size));
     return view;
 }
 
@@ -160,6 +161,9 @@ void after_first_frame(session& s) {
 void open_main(session& s) {
     s.window = new mainwindow(s);
     place_main_window(*s.window, s.view);
+    // Its layout tells it so when it comes up; until then its pictures are drawn ahead for this size.
+    const QSize whole = s.window->size();
+    s.window->main_view().resize(whole - s.window->bars(whole.width()));
 }
 
 void open_session(session& s) {

@@ -39,10 +39,8 @@ screenview::screenview(session& s, hustle::screen shown, QWidget* parent)
     QObject::connect(&settled, &QTimer::timeout, this, [this] {
         pictures.settling = false;
         pictures.latest.clear();
-        next_row = 0;
-        next_group = 0;
         update();
-        draw_ahead(played);
+        draw_again();
     });
     make_text_boxes();
 }
@@ -56,7 +54,11 @@ void screenview::measure() {
     const QSize whole = size() * devicePixelRatioF();
     const double width = row(what).width / static_cast<double>(twips_to_pixel);
     const double height = row(what).height / static_cast<double>(twips_to_pixel);
+    const double before = scale;
     scale = std::min(whole.width() / width, whole.height() / height);
+    if (!has_painted && scale != before) { // drawn ahead for a size that it did not come up in
+        let_go();
+    }
     origin = {static_cast<int>((whole.width() - width * scale) / 2),
               static_cast<int>((whole.height() - height * scale) / 2)};
 }
@@ -115,27 +117,39 @@ QRegion screenview::behind_reels(QRegion region) const {
     return region;
 }
 
+// No picture covers what can be pressed or read.
+void screenview::draw_elements(canvas& c, const QRect& part, bool pictures_only) {
+    for (const element_row& r : elements_of(what))
+        if ((r.what == kind::picture) == pictures_only && !is_edited(r.id) && !in_backdrop(r.id) &&
+            part.intersects(dirty_rect(r.id)))
+            draw_element(c, played.g.p, r.id, device_rect(r.id), r.id == held);
+}
+
+// Rectangle by rectangle: in a clip of any other shape the toolkit paints row by row, and wakes threads to
+// help it with each picture.
 void screenview::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setClipRegion(behind_reels(event->region()));
-    painter.fillRect(event->rect(), ground_colour());
-    const double ratio = devicePixelRatioF();
-    painter.scale(1 / ratio, 1 / ratio);
     canvas c{painter, pictures, dots, lamps, strips, played.show, scale, origin};
-    draw_bare_form(c, what);
-    const QRegion& region = event->region();
-    for (const bool pictures_first : {true, false}) { // no picture covers what can be pressed or read
-        if (!pictures_first)
-            painter.setClipRegion(QTransform::fromScale(ratio, ratio).map(event->region()));
-        for (const element_row& r : elements_of(what))
-            if ((r.what == kind::picture) == pictures_first && !is_edited(r.id) &&
-                region.intersects(dirty_rect(r.id)))
-                draw_element(c, played.g.p, r.id, device_rect(r.id), r.id == held);
+    const auto clip_to = [&](const QRect& part) {
+        painter.resetTransform();
+        painter.setClipRect(part);
+        painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    };
+    for (const QRect& part : behind_reels(event->region())) {
+        clip_to(part);
+        painter.fillRect(QRect({}, size() * devicePixelRatioF()), ground_colour());
+        draw_bare_form(c, what);
+        draw_backdrop(c, backdrop, played.g.p, what);
+        draw_elements(c, part, true);
     }
-    if (what == hustle::screen::main)
-        draw_win(c, played.g.p);
+    for (const QRect& part : event->region()) {
+        clip_to(part);
+        draw_elements(c, part, false);
+        if (what == hustle::screen::main)
+            draw_win(c, played.g.p);
+    }
     has_painted = true;
     if (!played.seen) {
         played.seen = true;
@@ -158,13 +172,14 @@ void screenview::resizeEvent(QResizeEvent*) {
 }
 
 void screenview::take_ready(art a, const QImage& image) {
+    measure();
     if (!image.isNull())
         give_picture(pictures, a, QPixmap::fromImage(image));
 }
 
 // True where the picture had to be drawn.
 bool screenview::draw_now(art a, element on) {
-    if (a == art::none)
+    if (a == art::none || in_backdrop(on))
         return false;
     if (played.g.p.dollars)
         a = dollar_version(a);
@@ -178,14 +193,23 @@ bool screenview::draw_now(art a, element on) {
 
 void screenview::let_go() {
     pictures = {};
+    backdrop = {};
     dots = {};
     lamps = {};
     strips = {};
+    draw_again();
+}
+
+void screenview::draw_again() {
     next_row = next_group = 0;
     next_in_group = 0;
+    draw_ahead(played);
 }
 
 bool screenview::draw_one_ahead() {
+    measure(); // a view that is not on show yet has been told no size
+    if (prepare_backdrop(backdrop, played.g.p, what, scale))
+        return true;
     const auto rows = elements_of(what); // first what stands there from the beginning
     while (next_row < rows.size()) {
         const element_row& r = rows[next_row++];

@@ -2,6 +2,7 @@
 // aspect kept, and gives the mouse and the keyboard to the machine.
 #pragma once
 
+#include "desktop/painting/backdrop.h"
 #include "desktop/painting/painting.h"
 #include "desktop/window/spokenviews.h"
 
@@ -56,8 +57,10 @@ protected:
 
 private:
     void measure();
+    void draw_again(); // begins the drawing ahead anew
     QRect dirty_rect(element) const;
     QRegion behind_reels(QRegion) const;
+    void draw_elements(canvas&, const QRect& part, bool pictures_only);
     element under(QPoint) const;
     void make_text_boxes();
     void place_children();
@@ -68,6 +71,7 @@ private:
     double scale = 1; // device pixels to a panel pixel
     QPoint origin;    // device pixels
     picture_store pictures;
+    backdrop_store backdrop;
     dot_store dots;
     lamp_store lamps;
     strip_store strips;
