@@ -345,10 +345,14 @@ TEST_F(Show, HintsHoldInLongPlay) {
                                          element::feature_cashbutton, element::feature_shotbutton};
     twin other;
     int silent = 0, visits = 0;
-    std::set<std::string_view> seen;
+    std::set<std::string> seen;
     for (int step = 0; step < 8000; ++step) {
         const bool board = is_loaded(g.p, screen::feature);
         EXPECT_LE(hint(g).size(), 91U);
+        const std::string by_touch = hint(g, hand::finger);
+        EXPECT_LE(by_touch.size(), 91U);
+        for (const char* key : {"Space", "Tab", "Enter", "{", "|"})
+            EXPECT_EQ(by_touch.find(key), std::string::npos) << by_touch;
         for (const named_deed& d : deeds_on(board ? screen::feature : screen::main)) {
             const auto acts = [&](const input& in) { return other.would_act(g, in); };
             EXPECT_TRUE(!says(d.says) || std::any_of(d.deeds.begin(), d.deeds.end(), acts))

@@ -15,7 +15,7 @@ import re
 import shutil
 import sys
 
-PARTS = ["hustle.wasm", "lab.wasm", "waves.pack", "tune.opus"]
+PARTS = ["hustle.wasm", "lab.wasm", "waves.pack", "tune.opus", "panel.webp", "board.webp"]
 
 
 def joined(folder, name, done):
@@ -40,9 +40,9 @@ def script_of(folder, charts):
 
 
 def guide(path):
-    """The text of a help page, without its pictures and its links to other pages."""
+    """The text of a help page, without its links to other pages; its pictures are parts of the page."""
     body = re.search(r"<body>(.*)</body>", path.read_text(), flags=re.S).group(1)
-    body = re.sub(r"<figure>.*?</figure>", "", body, flags=re.S)
+    body = re.sub(r'src="(\w+)\.png"', r'data-picture="\1.webp"', body)
     return re.sub(r'<a href="(?!#)[^"]*">(.*?)</a>', r"\1", body, flags=re.S)
 
 

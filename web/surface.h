@@ -25,8 +25,11 @@ const char* hh_text(void);
 
 /* Every screen, element, menu entry, art and sound by name, as JSON: see web/texts.cpp. Fixed. */
 int hh_sheet(void);
-/* A picture as SVG text; empty for art 0. */
+/* A picture as SVG text; empty for art 0. Where the machine shows dollars so do the pictures that bear
+ * a sign of money. */
 int hh_svg(int art);
+/* 1 where the machine shows dollars: it takes the option in at its start. */
+int hh_dollars(void);
 /* The SVG text of a label that is a lamp, with the look that it has now; its light reaches
  * `glow` panel pixels (hh_sheet) beyond the element on every side. */
 int hh_lamp(int element);
@@ -104,8 +107,8 @@ int hh_advance(double now);
 int hh_motion(void);
 const double* hh_numbers(void);
 void hh_reduce(int on); /* Reduced Flashing */
-/* What the player can do now; "Bank ..."; "Credits ...". */
-int hh_hint(void);
+/* What the player can do now, by keys or with `finger` not 0 by touch; "Bank ..."; "Credits ...". */
+int hh_hint(int finger);
 int hh_bank_label(void);
 int hh_credits_label(void);
 

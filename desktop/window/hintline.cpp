@@ -54,8 +54,7 @@ void hintline::fit() {
 }
 
 void hintline::tell(const game& g) {
-    const std::string_view said = hint(g);
-    const QString now = QString::fromUtf8(said.data(), static_cast<qsizetype>(said.size()));
+    const QString now = QString::fromStdString(hint(g));
     if (now != last) {
         last = now;
         what->setText(now);

@@ -10,7 +10,7 @@ import { startModule } from "./machine.js";
 import { makeMenus } from "./menus.js";
 import { makeMotion } from "./motion.js";
 import { makePays } from "./pays.js";
-import { makeAhead } from "./pictures.js";
+import { makeAhead, shippedPicture } from "./pictures.js";
 import { makeSession } from "./session.js";
 import { makeSound } from "./sound.js";
 import { download, fileNames, makeStore } from "./store.js";
@@ -82,12 +82,22 @@ async function start() {
   motion = makeMotion(machine, cabinet, { still, show });
   const hint = document.querySelector("#hint");
   const [bank, words, credits] = hint.children;
+  // The hint names what the player plays with: a finger until a key or a mouse is used, or the other way round.
+  let touched = matchMedia("(pointer: coarse)").matches;
+  for (const kind of ["pointerdown", "keydown"])
+    addEventListener(kind, (event) => {
+      const touch = event.pointerType === "touch";
+      if (touch !== touched) {
+        touched = touch;
+        refresh();
+      }
+    }, { capture: true, passive: true });
   function refresh() {
     motion.takeIn();
     show();
     if (!choices.hints || cabinet.shown() < 0) return;
     setText(bank, machine.text(x.hh_bank_label()));
-    setText(words, machine.text(x.hh_hint()));
+    setText(words, machine.text(x.hh_hint(touched ? 1 : 0)));
     setText(credits, machine.text(x.hh_credits_label()));
   }
   const setText = (node, text) => {
@@ -249,6 +259,7 @@ async function start() {
     const body = document.createElement("div");
     body.className = "guide";
     body.append(document.querySelector(`#${which}`).content.cloneNode(true));
+    for (const image of body.querySelectorAll("[data-picture]")) shippedPicture(image);
     session.hold(dialog({ title: "Hoard Hustle", look: "wide", body, buttons: [["ok", "Close", true]] }));
   }
 

@@ -1,3 +1,5 @@
+import { asset } from "./assets.js";
+
 // Pictures as addresses of SVG texts, made once for each look and kept, so that a change of picture
 // shows at once.
 
@@ -12,7 +14,8 @@ function keep(look, svg) {
   return kept.get(look);
 }
 
-const one = (machine, art) => kept.get(art) ?? keep(art, machine.text(machine.x.hh_svg(art)));
+const lookOf = (machine, art) => (machine.x.hh_dollars() === 1 ? `$${art}` : `${art}`);
+const one = (machine, art, look = lookOf(machine, art)) => kept.get(look) ?? keep(look, machine.text(machine.x.hh_svg(art)));
 
 export const artUrl = (machine, art) => (art > 0 ? one(machine, art).url : "");
 export const artImage = (machine, art) => one(machine, art).image;
@@ -27,11 +30,19 @@ export function lampUrl(machine, element, look, caption) {
 // Pictures that are likely to come are made ahead, a few in each idle moment.
 export function makeAhead(machine, first, last) {
   const wanted = [];
-  for (let art = first; art <= last; art += 1) if (!kept.has(art)) wanted.push(art);
+  for (let art = first; art <= last; art += 1) if (!kept.has(lookOf(machine, art))) wanted.push(art);
   const idle = window.requestIdleCallback ?? ((work) => setTimeout(() => work({ timeRemaining: () => 4 }), 30));
   const work = (deadline) => {
     while (wanted.length > 0 && deadline.timeRemaining() > 2) one(machine, wanted.shift());
     if (wanted.length > 0) idle(work);
   };
   idle(work);
+}
+
+// A picture that ships with the page, for an <img> that tells its name; read once.
+const shipped = new Map();
+export async function shippedPicture(image) {
+  const name = image.dataset.picture;
+  if (!shipped.has(name)) shipped.set(name, asset(name).then((bytes) => URL.createObjectURL(new Blob([bytes], { type: "image/webp" }))));
+  image.src = await shipped.get(name);
 }

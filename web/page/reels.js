@@ -66,11 +66,9 @@ export function makeReels(machine, view) {
     return { part, canvas, drawn: "" };
   });
   let strips = null;
-  const dollars = sheet.byName.get("main.ds").id;
-
   // The pictures of the strip at a size; null while the browser still reads them.
   function stripsFor(width, height) {
-    const usd = machine.look(dollars).checked === 1;
+    const usd = machine.x.hh_dollars() === 1;
     const key = `${width} ${height} ${usd}`;
     if (strips && strips.key === key) return strips;
     const images = ["reelpaper", "reelglass", usd ? "reelstrip1" : "reelstrip"].map((name) => artImage(machine, art(name)));
