@@ -61,12 +61,7 @@ const hh_shown_look* hh_look(int e) {
     return &look_buffer;
 }
 
-int hh_caption(int e) {
-    if (!is_element(e))
-        return 0;
-    const element_row& r = row(static_cast<element>(e)); // the words of a menu entry never change
-    return give(r.what == kind::entry ? std::string(r.text) : state_of(e).text);
-}
+int hh_caption(int e) { return is_element(e) ? give(state_of(e).text) : 0; }
 
 int hh_shown(void) {
     const panel& p = machine_here().g.p;
@@ -87,9 +82,9 @@ int hh_title(int s) {
 }
 
 int hh_svg(int a) {
-    const panel& p = machine_here().g.p;
-    return a > 0 && a < static_cast<int>(art_count) ? give(svg(shown_art(p, static_cast<art>(a)), p.dollars))
-                                                    : give({});
+    return a > 0 && a < static_cast<int>(art_count)
+               ? give(svg(static_cast<art>(a), machine_here().g.p.dollars))
+               : give({});
 }
 
 int hh_dollars(void) { return machine_here().g.p.dollars ? 1 : 0; }

@@ -68,6 +68,8 @@ void hh_reduce(int on) {
     touch_patches();
 }
 
-int hh_hint(int finger) { return give(hint(machine_here().g, finger != 0 ? hand::finger : hand::keys)); }
+int hh_hint(int touched) {
+    return give(std::string(hint(machine_here().g, touched != 0 ? hands::touch : hands::keys)));
+}
 int hh_bank_label(void) { return give(bank_label(machine_here().g)); }
 int hh_credits_label(void) { return give(credits_label(machine_here().g)); }

@@ -1,6 +1,7 @@
 #include "web/pageworld.h"
 
 #include "panel/sheet.h"
+#include "web/here.h"
 #define HH_IMPORTS
 #include "web/surface.h"
 
@@ -78,6 +79,11 @@ std::string pageworld::set_aside(store which) {
 void pageworld::browse(page which) { page_browse(which == page::home ? 1 : 0); }
 
 bool pageworld::system_info() { return page_system_info() != 0; }
+
+std::string pageworld::currency(float amount) {
+    const int length = page_currency(static_cast<double>(amount));
+    return length > 0 ? std::string(taken(length)) : said.currency(amount);
+}
 
 void pageworld::exit() {
     said.exit();

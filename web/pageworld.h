@@ -29,7 +29,7 @@ struct pageworld final : world {
     std::string set_aside(store) override;
     void browse(page) override;
     bool system_info() override;
-    std::string currency(float amount) override { return said.currency(amount); }
+    std::string currency(float amount) override;
     void exit() override;
 };
 

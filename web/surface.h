@@ -25,10 +25,9 @@ const char* hh_text(void);
 
 /* Every screen, element, menu entry, art and sound by name, as JSON: see web/texts.cpp. Fixed. */
 int hh_sheet(void);
-/* A picture as SVG text; empty for art 0. Where the machine shows dollars so do the pictures that bear
- * a sign of money. */
+/* A picture as SVG text; empty for art 0. Where hh_dollars() is 1 money in it bears a dollar sign. */
 int hh_svg(int art);
-/* 1 where the machine shows dollars: it takes the option in at its start. */
+/* 1 where pictures show dollars; it changes when main is loaded, and then alone. */
 int hh_dollars(void);
 /* The SVG text of a label that is a lamp, with the look that it has now; its light reaches
  * `glow` panel pixels (hh_sheet) beyond the element on every side. */
@@ -107,8 +106,9 @@ int hh_advance(double now);
 int hh_motion(void);
 const double* hh_numbers(void);
 void hh_reduce(int on); /* Reduced Flashing */
-/* What the player can do now, by keys or with `finger` not 0 by touch; "Bank ..."; "Credits ...". */
-int hh_hint(int finger);
+/* What the player can do now, by keys, or with `touched` not 0 by the buttons on the screen; "Bank ...";
+ * "Credits ...". */
+int hh_hint(int touched);
 int hh_bank_label(void);
 int hh_credits_label(void);
 
@@ -152,6 +152,8 @@ HH_IMPORT("write") int page_write(int store, const char* text, int bytes); /* 0:
 HH_IMPORT("set_aside") int page_set_aside(int store);
 HH_IMPORT("browse") void page_browse(int home); /* 0 help, 1 home */
 HH_IMPORT("system_info") int page_system_info(void);
+/* An amount of pounds as the system of the player writes money, at hh_room; its bytes. 0: as in the UK. */
+HH_IMPORT("currency") int page_currency(double amount);
 HH_IMPORT("exit") void page_exit(void);
 HH_IMPORT("time_of_day") double page_time_of_day(void); /* ms since midnight */
 

@@ -67,9 +67,9 @@ const script::cell* find_cell(std::string_view name) {
 } // namespace
 
 // {"screens": [[name, width, height]], "elements": [[name, screen, kind, left, top, width, height,
-// lamp]], "menus": [[menu, entry or -1 for a separator]], "arts": [name], "sounds": [name],
-// "winLine": [left, top, width, height], "coinSize" and "glow": panel pixels, "version": text}; lengths in
-// twips, 15 to a pixel of the panel.
+// lamp]], "menus": [[menu, entry or -1 for a separator]], "arts": [name], "sounds": [name], "files":
+// [name], "winLine": [left, top, width, height], "coinSize" and "glow": panel pixels, "version": text};
+// lengths in twips, 15 to a pixel of the panel.
 int hh_sheet(void) {
     std::string json = "{\"screens\":" + list(screen_count, [](std::size_t i) {
                            const screen_row& s = row(static_cast<screen>(i));
@@ -86,6 +86,7 @@ int hh_sheet(void) {
     json += ",\"arts\":" + list(art_count, [](std::size_t i) { return quoted(name(static_cast<art>(i))); });
     json +=
         ",\"sounds\":" + list(sound_count, [](std::size_t i) { return quoted(name(static_cast<sound>(i))); });
+    json += ",\"files\":[" + quoted(name(store::game_dat)) + "," + quoted(name(store::hscore_dat)) + "]";
     const rect line = win_line_area();
     json += ",\"winLine\":[" + figure(line.left) + "," + figure(line.top) + "," + figure(line.width) + "," +
             figure(line.height) + "],\"coinSize\":" + figure(coin_size);

@@ -13,9 +13,5 @@ film() { # NAME FROM TO, ms
 }
 film play 550 4200
 film ring 29300 40000
-still() { # NAME SCREEN PICTURE
-    "$bin/panelshot" "desktop/shot/$1.txt" "$2" "$work/$3.png" 800
-    ffmpeg -loglevel error -y -i "$work/$3.png" -c:v libwebp -quality 82 -compression_level 6 "docs/$3.webp"
-}
-still panel main main
-still board feature board
+"$bin/panelshot" desktop/shot/panel.txt main docs/main.png 800
+"$bin/panelshot" desktop/shot/board.txt feature docs/board.png 800

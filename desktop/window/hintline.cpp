@@ -54,7 +54,8 @@ void hintline::fit() {
 }
 
 void hintline::tell(const game& g) {
-    const QString now = QString::fromStdString(hint(g));
+    const std::string_view said = hint(g);
+    const QString now = QString::fromUtf8(said.data(), static_cast<qsizetype>(said.size()));
     if (now != last) {
         last = now;
         what->setText(now);

@@ -19,13 +19,14 @@ PATIENCE = 120  # seconds until something that was told to come has not come
 
 
 class Browser:
-    def __init__(self):
+    def __init__(self, language="en-GB"):
         self.folder = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
         options = Options()
         for word in ("--headless", "--no-sandbox", "--disable-gpu", "--no-first-run", "--disable-sync",
                      "--disable-background-networking", "--disable-component-update",
                      "--user-data-dir=" + self.folder.name, "--window-size=1100,900"):
             options.add_argument(word)
+        options.add_experimental_option("prefs", {"intl.accept_languages": language})
         options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
         self.driver = webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
         self.driver.set_script_timeout(PATIENCE)

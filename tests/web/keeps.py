@@ -88,6 +88,31 @@ def files():
         assert abs(float(found.split()[-1]) - game) < 0.6
 
 
+def dollars():
+    """Dollars, once chosen and the machine started anew, stand on the art; amounts are the language's own."""
+    shown = """
+      const image = document.querySelector('[data-element="main.transfer"] img');
+      const canvas = document.createElement("canvas");
+      [canvas.width, canvas.height] = [80, 80];
+      await image.decode();
+      canvas.getContext("2d").drawImage(image, 0, 0, 80, 80);
+      return canvas.toDataURL();"""
+    with Browser("de-AT") as b:
+        def transfer():
+            b.open("?seed=5")
+            b.ready()
+            b.until("hustle.get('main.loaded')")
+            return b.driver.execute_async_script(f"(async () => {{{shown}}})().then(arguments[0])")
+
+        pounds = transfer()
+        b.run("hustle.press('main.gstat')")
+        b.until("hustle.get('statistics.moneyin.text') === ' \u20ac\u00a0100,00'")
+        b.run("hustle.close('statistics'); hustle.press('main.ds')")
+        b.answer("ok")
+        b.until(f"({GAME} ?? '').includes('usd')")
+        assert pounds != transfer(), "the transfer button bears a dollar"
+
+
 def tabs():
     """Two tabs of the one file do not overwrite each other, by the browser's locks and without them."""
     for without in ("", "Object.defineProperty(navigator, 'locks', {value: undefined});"):
@@ -148,4 +173,4 @@ def offline():
 
 
 if __name__ == "__main__":
-    main({f.__name__: f for f in (saves, full, files, tabs, offline)})
+    main({f.__name__: f for f in (saves, full, files, dollars, tabs, offline)})

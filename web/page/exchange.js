@@ -2,7 +2,6 @@
 // on a desktop keeps them.
 
 import { askYesNo, tell } from "./dialogs.js";
-import { fileNames } from "./store.js";
 
 export function listenForFiles(take) {
   const chosen = document.querySelector("#files");
@@ -30,12 +29,13 @@ async function textOf(blob) {
 
 // Takes what is whole, after a question, and starts the machine anew from it.
 export async function replaceFiles({ machine, store, restart }, list) {
+  const fileNames = machine.sheet.files;
   const taken = new Map();
   for (const blob of list) {
     const text = await textOf(blob);
-    const which = text === null ? -1 : [0, 1].findIndex((file) => isFile(machine, file, text));
+    const which = text === null ? -1 : fileNames.findIndex((_, file) => isFile(machine, file, text));
     if (which < 0) {
-      await tell("Hoard Hustle", `${blob.name} is no game.dat or hscore.dat, or it is damaged. Nothing was changed.`, "warning");
+      await tell("Hoard Hustle", `${blob.name} is no ${fileNames.join(" or ")}, or it is damaged. Nothing was changed.`, "warning");
       return;
     }
     taken.set(which, text);

@@ -8,14 +8,21 @@ const rewinding = 2;
 const decoder = new TextDecoder();
 const encoder = new TextEncoder();
 
-// `world` answers what the module asks (web/surface.h); `box` and `wait` may answer with a promise.
-export async function startModule(bytes, world) {
+// `module`: compiled. `world` answers what the module asks (web/surface.h); `box` and `wait` may answer with a promise.
+export async function startModule(module, world) {
   let x = null; // the exports
   let standing = null; // the promise that the unwound call waits for
   let answer = 0;
   let unwound = 0;
 
   const read = (at, length) => decoder.decode(new Uint8Array(x.memory.buffer, at, length));
+  // Leaves a text in the module's room; its length in bytes.
+  const give = (text) => {
+    const coded = encoder.encode(text);
+    const at = x.hh_room(coded.length);
+    new Uint8Array(x.memory.buffer, at, coded.length).set(coded);
+    return coded.length;
+  };
   const waiting = (ask) => (...given) => {
     if (x.asyncify_get_state() === rewinding) {
       x.asyncify_stop_rewind();
@@ -39,13 +46,14 @@ export async function startModule(bytes, world) {
     set_aside: (file) => world.setAside(file),
     browse: (home) => world.browse(home === 1),
     system_info: () => world.systemInfo(),
+    currency: (amount) => give(world.currency(amount)),
     exit: () => world.exit(),
     time_of_day: () => world.timeOfDay(),
   };
   const system = { // what the C library would write to goes nowhere
     fd_write: () => 8, fd_close: () => 8, fd_seek: () => 8,
   };
-  const { instance } = await WebAssembly.instantiate(bytes, { page, wasi_snapshot_preview1: system });
+  const instance = await WebAssembly.instantiate(module, { page, wasi_snapshot_preview1: system });
   x = instance.exports;
   x._initialize();
 
@@ -68,13 +76,7 @@ export async function startModule(bytes, world) {
       return x.asyncify_get_state() === unwinding ? goOn(name, given) : value;
     },
     text: (length) => (length > 0 ? read(x.hh_text(), length) : ""),
-    // Leaves a text in the module's room; its length in bytes.
-    give(text) {
-      const coded = encoder.encode(text);
-      const at = x.hh_room(coded.length);
-      new Uint8Array(x.memory.buffer, at, coded.length).set(coded);
-      return coded.length;
-    },
+    give,
     changed() {
       const count = x.hh_take_changed();
       return new Uint16Array(x.memory.buffer, x.hh_changed(), count).slice();

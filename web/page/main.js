@@ -3,6 +3,7 @@
 import { asset, wavesOf } from "./assets.js";
 import { makeCabinet } from "./cabinet.js";
 import { makeConsole } from "./console.js";
+import { currencyText } from "./currency.js";
 import { askYesNo, dialog, tell } from "./dialogs.js";
 import { listenForFiles, replaceFiles } from "./exchange.js";
 import { machineKey } from "./keys.js";
@@ -10,10 +11,10 @@ import { startModule } from "./machine.js";
 import { makeMenus } from "./menus.js";
 import { makeMotion } from "./motion.js";
 import { makePays } from "./pays.js";
-import { makeAhead, shippedPicture } from "./pictures.js";
+import { makeAhead } from "./pictures.js";
 import { makeSession } from "./session.js";
 import { makeSound } from "./sound.js";
-import { download, fileNames, makeStore } from "./store.js";
+import { download, makeStore } from "./store.js";
 import { systemText } from "./system.js";
 import { takeTurn } from "./turns.js";
 
@@ -33,8 +34,7 @@ function timeOfDay() {
 }
 
 async function start() {
-  const store = makeStore(!still);
-  const choices = { volume: 1, mute: false, reduced: null, hints: true, ...store.choices() };
+  let store = null;
   let session = null;
   let cabinet = null;
   let menus = null;
@@ -57,12 +57,16 @@ async function start() {
       dialog({ title: "System", body, buttons: [["ok", "OK", true]] });
       return 1;
     },
+    currency: (amount) => (still ? "" : currencyText(amount, navigator.language)),
     exit: () => setTimeout(ended, 0),
     timeOfDay,
   };
 
-  machine = await startModule(await asset("hustle.wasm"), world);
+  const module = await WebAssembly.compile(await asset("hustle.wasm"));
+  machine = await startModule(module, world);
   const { x, sheet } = machine;
+  store = makeStore(!still, sheet.files);
+  const choices = { volume: 1, mute: false, reduced: null, hints: true, ...store.choices() };
   sound = makeSound(sheet.sounds, async () => wavesOf(await asset("waves.pack")), () => asset("tune.opus"));
   session = makeSession(machine, { still, refresh });
   const send = (name, ...given) => session.send(name, ...given);
@@ -80,18 +84,15 @@ async function start() {
 
   const soundOff = sheet.byName.get("main.soundoff").id;
   motion = makeMotion(machine, cabinet, { still, show });
+  // The hint names buttons to whoever touches the screen, and keys to all others.
+  let touched = matchMedia("(pointer: coarse)").matches;
+  function playedBy(touch) {
+    if (touch === touched) return;
+    touched = touch;
+    refresh();
+  }
   const hint = document.querySelector("#hint");
   const [bank, words, credits] = hint.children;
-  // The hint names what the player plays with: a finger until a key or a mouse is used, or the other way round.
-  let touched = matchMedia("(pointer: coarse)").matches;
-  for (const kind of ["pointerdown", "keydown"])
-    addEventListener(kind, (event) => {
-      const touch = event.pointerType === "touch";
-      if (touch !== touched) {
-        touched = touch;
-        refresh();
-      }
-    }, { capture: true, passive: true });
   function refresh() {
     motion.takeIn();
     show();
@@ -107,7 +108,13 @@ async function start() {
     const changed = machine.changed();
     cabinet.refresh(changed);
     for (const id of changed) if (menus) menus.refresh(id);
+    if (ahead !== null && ahead !== x.hh_dollars()) picturesAhead();
     if (changed.includes(soundOff)) hearIt();
+  }
+  let ahead = null; // whether the pictures that were made ahead show dollars
+  function picturesAhead() {
+    ahead = x.hh_dollars();
+    makeAhead(machine, 1, sheet.arts.length - 1);
   }
   function hearIt() {
     sound.set({ volume: choices.volume, silent: choices.mute || machine.look(soundOff).checked === 1 });
@@ -153,7 +160,7 @@ async function start() {
       window.location.reload();
     },
   };
-  const downloadFile = (file) => download(fileNames[file], machine.text(x.hh_file_text(file)));
+  const downloadFile = (file) => download(sheet.files[file], machine.text(x.hh_file_text(file)));
 
   // --- menus ---
 
@@ -177,8 +184,8 @@ async function start() {
         { name: "mute", text: "Mute", checked: () => choices.mute, act: () => choose({ mute: !choices.mute }) },
       ]],
       ["Files", [
-        { name: "savegame", text: "Download game.dat", act: () => downloadFile(0) },
-        { name: "savetable", text: "Download hscore.dat", act: () => downloadFile(1) },
+        { name: "savegame", text: `Download ${sheet.files[0]}`, act: () => downloadFile(0) },
+        { name: "savetable", text: `Download ${sheet.files[1]}`, act: () => downloadFile(1) },
         { name: "session", text: "Download session.txt",
           act: () => download("session.txt", machine.text(x.hh_record())) },
         null,
@@ -211,9 +218,13 @@ async function start() {
 
   // --- the player's hands ---
 
-  window.addEventListener("pointerdown", () => sound.wake(), true);
+  window.addEventListener("pointerdown", (event) => {
+    sound.wake();
+    playedBy(event.pointerType === "touch");
+  }, true);
   window.addEventListener("keydown", (event) => {
     sound.wake();
+    if (event.target.tagName !== "INPUT") playedBy(false); // a name may be typed on the screen
     if (document.querySelector("dialog[open]") || !paysRoom.hidden) return;
     const screen = cabinet.keyScreen();
     const onButton = document.activeElement?.closest("button");
@@ -259,7 +270,6 @@ async function start() {
     const body = document.createElement("div");
     body.className = "guide";
     body.append(document.querySelector(`#${which}`).content.cloneNode(true));
-    for (const image of body.querySelectorAll("[data-picture]")) shippedPicture(image);
     session.hold(dialog({ title: "Hoard Hustle", look: "wide", body, buttons: [["ok", "Close", true]] }));
   }
 
@@ -295,7 +305,7 @@ async function start() {
     text: "This machine flashes. Flashing light can bring on fits in some people, and headaches in more.\n\nShall it flash less? Lamps that flash fast are then held steady. The menu View, Reduced Flashing changes it at any time." });
 
   await firstWords();
-  for (const file of [0, 1]) {
+  for (const file of sheet.files.keys()) {
     const text = store.read(file);
     if (text !== null) x.hh_give_file(file, machine.give(text));
   }
@@ -320,7 +330,7 @@ async function start() {
     setInterval(saveLedgers, saveEvery);
     sound.decode().catch(() => {});
   }
-  makeAhead(machine, 1, sheet.arts.length - 1);
+  picturesAhead();
 }
 
 start().catch((error) => {

@@ -31,7 +31,7 @@ export function makeMotion(machine, cabinet, { still, show }) {
         coins[i] = new Image();
         coins[i].className = "coin";
         coins[i].alt = "";
-        coins[i].src = artUrl(machine, sheet.arts.indexOf(machine.x.hh_dollars() === 1 ? "coinpic1" : "coinpic"));
+        coins[i].src = artUrl(machine, sheet.arts.indexOf(x.hh_dollars() ? "coinpic1" : "coinpic"));
         view.stage.append(coins[i]);
       }
       const size = sheet.coinSize * px;

@@ -1,5 +1,3 @@
-import { asset } from "./assets.js";
-
 // Pictures as addresses of SVG texts, made once for each look and kept, so that a change of picture
 // shows at once.
 
@@ -14,8 +12,13 @@ function keep(look, svg) {
   return kept.get(look);
 }
 
-const lookOf = (machine, art) => (machine.x.hh_dollars() === 1 ? `$${art}` : `${art}`);
-const one = (machine, art, look = lookOf(machine, art)) => kept.get(look) ?? keep(look, machine.text(machine.x.hh_svg(art)));
+// The machine chooses between pounds and dollars as it loads main: each has pictures of its own.
+const lookOf = (machine, art) => (machine.x.hh_dollars() ? `${art} dollars` : art);
+
+function one(machine, art) {
+  const look = lookOf(machine, art);
+  return kept.get(look) ?? keep(look, machine.text(machine.x.hh_svg(art)));
+}
 
 export const artUrl = (machine, art) => (art > 0 ? one(machine, art).url : "");
 export const artImage = (machine, art) => one(machine, art).image;
@@ -37,12 +40,4 @@ export function makeAhead(machine, first, last) {
     if (wanted.length > 0) idle(work);
   };
   idle(work);
-}
-
-// A picture that ships with the page, for an <img> that tells its name; read once.
-const shipped = new Map();
-export async function shippedPicture(image) {
-  const name = image.dataset.picture;
-  if (!shipped.has(name)) shipped.set(name, asset(name).then((bytes) => URL.createObjectURL(new Blob([bytes], { type: "image/webp" }))));
-  image.src = await shipped.get(name);
 }

@@ -66,6 +66,7 @@ export function makeReels(machine, view) {
     return { part, canvas, drawn: "" };
   });
   let strips = null;
+
   // The pictures of the strip at a size; null while the browser still reads them.
   function stripsFor(width, height) {
     const usd = machine.x.hh_dollars() === 1;

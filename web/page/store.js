@@ -2,9 +2,9 @@
 // choices of the View menu. A machine under ?still keeps nothing and finds nothing.
 
 const prefix = "hoardhustle/";
-export const fileNames = ["game.dat", "hscore.dat"];
 
-export function makeStore(enabled) {
+// `fileNames`: those of the sheet. Nothing is read or kept where it is not `enabled`.
+export function makeStore(enabled, fileNames) {
   let shelf = null;
   let saving = enabled;
   try {
