@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""bundle.py PAGE HELP REPORT ASSETS OUT: makes the two forms of the page.
+"""bundle.py PAGE HELP SHOTS REPORT ASSETS OUT: makes the two forms of the page.
 
 OUT/hoardhustle.html has everything in it and fetches nothing. OUT/app is a folder for a web server:
 the same page with its parts beside it, a manifest and a service worker, so that it installs and
-plays offline. PAGE is the folder of modules and styles, HELP that of the help pages, REPORT that of
+plays offline. PAGE is the folder of modules and styles, HELP that of the help pages, SHOTS
+that of the scripts of their pictures, REPORT that of
 the lab's charts, ASSETS that of the modules, the sounds and the icons.
 """
 import base64
@@ -15,7 +16,7 @@ import re
 import shutil
 import sys
 
-PARTS = ["hustle.wasm", "lab.wasm", "waves.pack", "tune.opus", "panel.webp", "board.webp"]
+PARTS = ["hustle.wasm", "lab.wasm", "waves.pack", "tune.opus"]
 
 
 def joined(folder, name, done):
@@ -39,10 +40,19 @@ def script_of(folder, charts):
     return '"use strict";\n' + charts + joined(folder, "main", [])
 
 
-def guide(path):
-    """The text of a help page, without its links to other pages; its pictures are parts of the page."""
+def guide(path, shots):
+    """The text of a help page, without its links to other pages. Of a picture its script goes along: the
+    page plays it on a machine of its own, and draws what then stands there."""
+    screens = {"panel": "main", "board": "feature"}
+
+    def figure(found):
+        tag = dict(re.findall(r'(\w+)="([^"]*)"', found.group(0)))
+        name = pathlib.Path(tag["src"]).stem
+        script = (shots / f"{name}.txt").read_text()
+        return f'<div role="img" aria-label="{tag["alt"]}" data-shows="{screens[name]}">{script}</div>'
+
     body = re.search(r"<body>(.*)</body>", path.read_text(), flags=re.S).group(1)
-    body = re.sub(r'src="(\w+)\.png"', r'data-picture="\1.webp"', body)
+    body = re.sub(r"<img [^>]*>", figure, body)
     return re.sub(r'<a href="(?!#)[^"]*">(.*?)</a>', r"\1", body, flags=re.S)
 
 
@@ -108,13 +118,15 @@ def write_app(page, common, style, script, assets, icons, out):
 
 
 if __name__ == "__main__":
-    page_folder, help_folder, report_folder, assets_folder, out_folder = map(pathlib.Path, sys.argv[1:6])
+    page_folder, help_folder, shots_folder, report_folder, assets_folder, out_folder = map(
+        pathlib.Path, sys.argv[1:7])
     template = (page_folder / "index.html").read_text()
     style_text = (report_folder / "lab.css").read_text() + (page_folder / "style.css").read_text()
     script_text = script_of(page_folder, (report_folder / "lab.js").read_text())
     svg = (assets_folder / "icon.svg").read_bytes()
     shared = {
-        "inside": {"HELP": guide(help_folder / "index.html"), "HOME": guide(help_folder / "home.html"),
+        "inside": {"HELP": guide(help_folder / "index.html", shots_folder),
+                   "HOME": guide(help_folder / "home.html", shots_folder),
                    "LABWORKER": (page_folder / "labworker.js").read_text()},
         "icon": f'<link rel="icon" href="data:image/svg+xml;base64,{base64.b64encode(svg).decode()}">',
     }

@@ -6,6 +6,7 @@ import { makeConsole } from "./console.js";
 import { currencyText } from "./currency.js";
 import { askYesNo, dialog, tell } from "./dialogs.js";
 import { listenForFiles, replaceFiles } from "./exchange.js";
+import { drawFigures } from "./figures.js";
 import { machineKey } from "./keys.js";
 import { startModule } from "./machine.js";
 import { makeMenus } from "./menus.js";
@@ -270,6 +271,7 @@ async function start() {
     const body = document.createElement("div");
     body.className = "guide";
     body.append(document.querySelector(`#${which}`).content.cloneNode(true));
+    drawFigures(body, (its) => startModule(module, its));
     session.hold(dialog({ title: "Hoard Hustle", look: "wide", body, buttons: [["ok", "Close", true]] }));
   }
 
