@@ -67,6 +67,18 @@ class Browser:
     def command(self, name, **given):
         return self.driver.execute_cdp_cmd(name, given)
 
+    def silence(self):
+        """Waits until the meter of a test that listens has seen half a second of nothing."""
+        self.driver.execute_async_script("""
+          const done = arguments[0];
+          let quiet = 0;
+          const look = () => {
+            quiet = heard.all === 0 ? quiet + 1 : 0;
+            heard.all = 0;
+            if (quiet > 10) done(); else setTimeout(look, 50);
+          };
+          look();""")
+
     def resize(self, width, height, ratio=1):
         self.command("Emulation.setDeviceMetricsOverride", width=width, height=height,
                      deviceScaleFactor=ratio, mobile=False)

@@ -1,6 +1,5 @@
 #!/usr/bin/env python3
 """What the page lets be heard."""
-import time
 import wave
 
 from browser import ROOT, Browser, main
@@ -21,12 +20,23 @@ TAP = """
   };
   AudioNode.prototype.connect = function (to, ...rest) {
     if (to === this.context.destination) meter(this, 'all');
+    heard.context = this.context;
     return connect.call(this, to, ...rest);
   };
   const { start } = AudioBufferSourceNode.prototype;
   AudioBufferSourceNode.prototype.start = function (...given) {
     heard.begun.push(this.buffer.duration);
     return start.apply(this, given);
+  };
+  const { play } = HTMLMediaElement.prototype;
+  HTMLMediaElement.prototype.play = function () {
+    heard.tune = this;
+    return play.call(this);
+  };
+  heard.plays = () => heard.tune !== undefined && !heard.tune.paused && heard.tune.currentTime > 0;
+  heard.hide = (hidden) => {
+    Object.defineProperty(document, 'hidden', { value: hidden, configurable: true });
+    document.dispatchEvent(new Event('visibilitychange'));
   };"""
 
 
@@ -51,15 +61,50 @@ def sounds():
         for length, name in zip(begun, told):
             assert abs(length - seconds_of(name)) < 0.05, (name, length)
         b.run("hustle.press('main.soundoff')")
-        time.sleep(0.3)  # what was under way has died away
-        b.run("heard.all = 0; hustle.press('main.start')")
-        time.sleep(1)
-        assert b.value("heard.all") == 0
+        b.silence()
+        b.until("hustle.get('main.start.enabled')")
+        b.run("hustle.press('main.start')")
+        b.until("!hustle.get('main.start.enabled')")  # the reels spin, and nobody hears them
+        b.silence()
         b.run("hustle.press('main.soundon')")
         b.until("hustle.get('main.start.enabled')")
         b.run("hustle.press('main.start')")
         b.until("heard.all > 0.01")
 
 
+def tune():
+    """The tune of the board begins with the machine's word, and rests while the sound is off."""
+    with Browser() as b:
+        b.command("Page.addScriptToEvaluateOnNewDocument", source=TAP)
+        b.open("?seed=63&clock=43200&still")
+        b.driver.find_element("css selector", "#hint").click()  # the browser lets sound begin
+        for _ in range(2):
+            b.run("hustle.press('main.start'); hustle.run(6000); hustle.press('main.stopper'); hustle.run(3000)")
+        assert b.get("midi").endswith("play mid1 from 0")
+        b.until("heard.plays() && heard.all > 0.001")
+        b.run("hustle.press('main.soundoff')")
+        b.until("heard.tune.paused")
+        b.silence()
+        b.run("hustle.press('main.soundon')")
+        b.until("heard.plays() && heard.all > 0.001")
+
+
+def stalls():
+    """A hidden tab stands still, tune and all, and nothing is made up for when it is seen again."""
+    with Browser() as b:
+        b.command("Page.addScriptToEvaluateOnNewDocument", source=TAP)
+        b.start_as_player("?seed=3")
+        b.key(" ", "Space", 32)
+        b.until("heard.all > 0.01")
+        stood, real = b.run("heard.hide(true); return [hustle.now(), performance.now()]")
+        b.until("heard.context.state === 'suspended'")
+        b.until(f"performance.now() > {real} + 3000")
+        assert b.value("hustle.now()") == stood, "the clock stands"
+        assert b.run("heard.hide(false); return hustle.now()") - stood < 300, "no burst"
+        b.until(f"hustle.now() > {stood} + 500")
+        behind = b.value(f"performance.now() - {real} - (hustle.now() - {stood})")
+        assert behind > 2900, behind
+
+
 if __name__ == "__main__":
-    main({f.__name__: f for f in (sounds,)})
+    main({f.__name__: f for f in (sounds, tune, stalls)})
