@@ -61,7 +61,12 @@ const hh_shown_look* hh_look(int e) {
     return &look_buffer;
 }
 
-int hh_caption(int e) { return is_element(e) ? give(state_of(e).text) : 0; }
+int hh_caption(int e) {
+    if (!is_element(e))
+        return 0;
+    const element_row& r = row(static_cast<element>(e)); // the words of a menu entry never change
+    return give(r.what == kind::entry ? std::string(r.text) : state_of(e).text);
+}
 
 int hh_shown(void) {
     const panel& p = machine_here().g.p;

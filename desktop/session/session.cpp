@@ -224,6 +224,8 @@ void set_reduced_flashing(session& s, bool on) {
 }
 
 void end_session(session& s) {
+    if (s.leaving && !s.g.p.over) // the desktop's end did not wait for a box to be gone
+        leave(s);
     finish(s.saving);
     flush_recording(s.record, s.g);
     end_recording(s.record);

@@ -35,6 +35,8 @@ def boots():
         b.key(" ", "Space", 32)
         b.until("hustle.get('credits') === 19")
         assert b.value("document.title") == b.get("main.title")
+        words = b.value("[...document.querySelectorAll('.item')].map((entry) => entry.textContent)")
+        assert "Refill Key" in words and "Sound Off" in words and all(words), words
 
 
 def agrees():

@@ -19,14 +19,17 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSessionManager>
 #include <QTemporaryDir>
 #include <QWindow>
 
 #include <csignal>
 #include <thread>
+#include <utility>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -60,6 +63,31 @@ TEST(Session, LeavesAlsoWhileABoxAsks) {
     p.until_over();
     machine read;
     EXPECT_TRUE(read_game_text(read, p.stored("game.dat")));
+}
+
+// As the desktop's session manager does it: the wish, and then the end, whatever stands before the player.
+TEST(Session, LosesNothingAtTheEndOfTheDesktopsSession) {
+    for (const bool asks : {false, true}) {
+        program p;
+        p.s.view.player = "ANNA";
+        p.start();
+        p.hand.stop();
+        alignas(QSessionManager) char manager[sizeof(QSessionManager)] = {}; // only the toolkit can make one
+        QTimer::singleShot(50, [&] {
+            emit qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(manager));
+            QCoreApplication::quit();
+        });
+        if (asks)
+            send(p.s, {input::kind::press, screen::main, element::transfer}); // nothing in the bank: a box
+        p.s.g.m.bank = 50;
+        if (!asks)
+            p.until([] { return false; });
+        end_session(p.s);
+        machine read;
+        EXPECT_TRUE(read_game_text(read, p.stored("game.dat"))) << asks;
+        ASSERT_TRUE(read_table_text(read, p.stored("hscore.dat"))) << asks;
+        EXPECT_EQ(read.hiscore[0], 50);
+    }
 }
 
 TEST(Session, SavesTheLedgersAfterEachPlayAndAnOptionAtOnce) {
@@ -123,6 +151,33 @@ TEST(Session, TellsAtTheStartThatNothingCanBeSavedAndTriesAgainAtTheEnd) {
     EXPECT_TRUE(p.told.at(1).contains("game.dat is not saved")) << p.told[1].toStdString();
     EXPECT_NE(p.stored("games/game.dat"), "");
     EXPECT_NE(p.stored("games/hscore.dat"), "");
+}
+
+TEST(Session, SavesElsewhereWhereThePlayerWishes) {
+    program p;
+    QDir(p.folder.path()).mkdir("game.dat");
+    const QString other = p.folder.filePath("other");
+    QDir().mkdir(other);
+    p.start();
+    p.button = "Save &Elsewhere...";
+    bool refused = false;
+    QTimer chooser;
+    QObject::connect(&chooser, &QTimer::timeout, &chooser, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        if (!std::exchange(refused, true)) // the box asks again
+            return dialog->reject();
+        dialog->selectFile(other);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    chooser.start(20);
+    ask_to_leave(p.s);
+    p.until_over();
+    machine read;
+    EXPECT_TRUE(read_game_text(read, p.stored("other/game.dat")));
+    EXPECT_TRUE(QDir(p.folder.filePath("game.dat")).exists());
+    EXPECT_NE(p.stored("hscore.dat"), "") << "a file of its own place";
 }
 
 TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {

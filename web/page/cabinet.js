@@ -52,7 +52,7 @@ export function makeCabinet(machine, host, { press, type, close, bringToFront, p
     const shown = views.get(id);
     const { width, height } = shown.screen;
     const bar = id === screenId.software ? 0 : 48;
-    const most = Math.min((window.innerWidth - 16) / (width / 15), (window.innerHeight - bar - 24) / (height / 15));
+    const most = Math.min((side.clientWidth - 16) / (width / 15), (side.clientHeight - bar - 12) / (height / 15));
     shown.placeAll(Math.max(0.2, Math.min(most, 2, Math.max(1.15, 0.55 * most))), false);
   }
 
