@@ -85,10 +85,11 @@ words offer_hint(const game& g) {
 words empty_hint(const game& g) {
     const machine& m = g.m;
     if (m.bank > 0.1f)
-        return g.p.dollars ? words{"No credits: 0 turns $1 of the bank into four plays",
-                                   "No credits: Transfer turns $1 of the bank into four plays"}
-                           : words{"No credits: 0 turns £1 of the bank into four plays",
-                                   "No credits: Transfer turns £1 of the bank into four plays"};
+        return g.p.dollars
+                   ? words{"No credits: 0 turns $1 of the bank into four plays",
+                           "No credits: the button with the coin turns $1 of the bank into four plays"}
+                   : words{"No credits: 0 turns £1 of the bank into four plays",
+                           "No credits: the button with the coin turns £1 of the bank into four plays"};
     return to_both("No credits and no bank: Game, New");
 }
 

@@ -11,7 +11,7 @@ namespace hustle {
 
 // What the player can do now; empty where there is nothing to say (splash, guides, a lamp show that
 // needs no answer). Never longer than 90 letters. It names keys, or for hands that touch the screen the
-// buttons there: Start, Stop, Hold, Cancel, Transfer, and those of the board.
+// buttons there: Start, Stop, Hold, Cancel, the transfer with its coin, and those of the board.
 enum class hands { keys, touch };
 std::string_view hint(const game&, hands by = hands::keys);
 

@@ -181,7 +181,7 @@ std::vector<named_deed> touches_on(screen s) {
         return {{"Start ", {press_of(element::start)}},
                 {"Stop ", {press_of(element::stopper)}},
                 {"Cancel ", {press_of(element::cancelbutton)}},
-                {"Transfer ", {press_of(element::transfer)}},
+                {"with the coin", {press_of(element::transfer)}},
                 {"left Hold", {press_of(element::hold1)}},
                 {"right Hold", {press_of(element::hold3)}},
                 {" reel", {press_of(element::hold1), press_of(element::hold2), press_of(element::hold3)}}};
