@@ -1,3 +1,6 @@
+// The WebAssembly toolchain's standard library reads no single from characters (libc++ has it from 20 on);
+// the machine does so in its stored files and its belt. Every file of the module is compiled with this before
+// it, so that no file of the machine knows of it.
 #pragma once
 #include <charconv>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // The start, the inputs and the clock.
 #include "core/files.h"
 #include "core/start.h"
-#include "desktop/session/clock.h"
 #include "screens/dispatch.h"
+#include "show/clock.h"
 #include "web/here.h"
 #define HH_IMPORTS
 #include "web/surface.h"
@@ -15,7 +15,7 @@ namespace hustle::web {
 
 namespace {
 
-desktop::machine_clock page_clock;
+machine_clock page_clock;
 
 constexpr int asyncify_room = 1 << 16;
 struct {

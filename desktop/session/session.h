@@ -5,7 +5,6 @@
 #pragma once
 
 #include "desktop/session/ahead.h"
-#include "desktop/session/clock.h"
 #include "desktop/session/ledgers.h"
 #include "desktop/session/nameform.h"
 #include "desktop/session/qtworld.h"
@@ -13,6 +12,7 @@
 #include "desktop/session/saver.h"
 #include "desktop/window/viewsettings.h"
 #include "screens/dispatch.h"
+#include "show/clock.h"
 #include "show/stage.h"
 
 #include <QElapsedTimer>

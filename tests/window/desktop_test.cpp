@@ -1,8 +1,8 @@
 // The parts of the window that need no screen: its clock, its names and its letters.
 #include "art/art.h"
 #include "art/dotfont.h"
-#include "desktop/session/clock.h"
 #include "panel/sheet.h"
+#include "show/clock.h"
 #include "show/spokennames.h"
 #include "tests/testgame.h"
 

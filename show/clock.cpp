@@ -1,8 +1,8 @@
-#include "desktop/session/clock.h"
+#include "show/clock.h"
 
 #include <algorithm>
 
-namespace hustle::desktop {
+namespace hustle {
 
 namespace {
 
@@ -35,4 +35,4 @@ std::int64_t catch_up(machine_clock& clock, const panel& p, std::int64_t real) {
     return due;
 }
 
-} // namespace hustle::desktop
+} // namespace hustle

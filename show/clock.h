@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace hustle::desktop {
+namespace hustle {
 
 struct machine_clock {
     std::int64_t behind = 0; // ms that the machine's clock is behind the real one
@@ -20,4 +20,4 @@ std::int64_t reading(const machine_clock&, const panel&, std::int64_t real);
 // two pictures.
 std::int64_t catch_up(machine_clock&, const panel&, std::int64_t real);
 
-} // namespace hustle::desktop
+} // namespace hustle
