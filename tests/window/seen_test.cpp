@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QPainter>
 #include <QScreen>
 #include <QWindow>
 
@@ -101,6 +102,57 @@ struct seen : program {
             << changed.height();
     }
 };
+
+// The longest text that the machine may put there.
+std::string longest(const element_row& r) {
+    if (r.what == kind::line)
+        return std::string(26, 'W');
+    if (r.what == kind::textbox && r.text.find_first_not_of(' ') == std::string_view::npos)
+        return r.where == screen::statistics ? "£123,456,789.00" : std::string(15, 'W');
+    if (r.text.find_first_not_of(' ') == std::string_view::npos)
+        return r.where == screen::Highscore ? std::string(15, 'W') : "£12345.67";
+    return std::string(r.text);
+}
+
+TEST(Seen, NothingIsPaintedOutsideItsPlace) {
+    const program machine;
+    panel p = machine.s.g.p;
+    picture_store pictures;
+    lamp_store lamps;
+    strip_store strips;
+    const stage show;
+    for (const double pixel : {0.6, 1.0, 1.28, 3.0}) {
+        dot_store dots;
+        for (std::size_t i = 0; i < element_count; ++i) {
+            const element_row& r = row(static_cast<element>(i));
+            if (r.what == kind::entry)
+                continue;
+            element_state& state = at(p, r.id);
+            state.visible = true;
+            state.text = longest(r);
+            const bool shines = is_lamp(r) || r.what == kind::line;
+            const int reach = shines ? static_cast<int>(std::ceil(glow_reach * pixel)) + 1 : 1;
+            const QRect box = QRect(QPoint(60, 60), device_place(p, r.id, pixel, {}).size());
+            QImage image(box.size() + QSize(120, 120), QImage::Format_RGB32);
+            image.fill(Qt::magenta);
+            {
+                QPainter painter(&image);
+                painter.setRenderHint(QPainter::Antialiasing);
+                canvas c{painter, pictures, dots, lamps, strips, show, pixel, {}};
+                draw_element(c, p, r.id, box, false);
+            }
+            int outside = 0, inside = 0;
+            const QRect allowed = box.adjusted(-reach, -reach, reach, reach);
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    if (image.pixelColor(x, y) != QColor(Qt::magenta))
+                        ++(allowed.contains(x, y) ? inside : outside);
+            EXPECT_EQ(outside, 0) << r.name << " at " << pixel << ": " << state.text;
+            const bool bare = r.what == kind::picture || r.what == kind::clicked || r.what == kind::button;
+            EXPECT_TRUE(bare || inside > 0) << r.name << " at " << pixel << " shows nothing";
+        }
+    }
+}
 
 TEST(Seen, PaintedByPartsIsPaintedWhole) {
     seen w;
