@@ -103,12 +103,12 @@ struct seen : program {
     }
 };
 
-// The longest text that the machine may put there.
+// The longest text that the machine puts there: its ledgers hold what half a million plays stake.
 std::string longest(const element_row& r) {
     if (r.what == kind::line)
         return std::string(26, 'W');
     if (r.what == kind::textbox && r.text.find_first_not_of(' ') == std::string_view::npos)
-        return r.where == screen::statistics ? "£123,456,789.00" : std::string(15, 'W');
+        return r.where == screen::statistics ? "£123,456.75" : std::string(15, 'W');
     if (r.text.find_first_not_of(' ') == std::string_view::npos)
         return r.where == screen::Highscore ? std::string(15, 'W') : "£12345.67";
     return std::string(r.text);
