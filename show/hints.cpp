@@ -142,7 +142,7 @@ constexpr stop_hint board_stops[] = {
 words board_stop_hint(const game& g) {
     if (g.m.award == award::shots && g.b.shotstate == shooting::on_offer)
         return {"Space shoots again; Tab and Enter on Collect takes the prize",
-                "Stop shoots again; Collect takes the prize"};
+                "The lit Start shoots again; Collect takes the prize"}; // Stop shows another picture then
     if ((runs(g, timer::feature_pickaladder) && g.b.ladderpick == 0) ||
         (runs(g, timer::feature_yesorno) && g.b.yesnoanswer.empty()))
         return {}; // nothing is shown yet, and nothing is taken

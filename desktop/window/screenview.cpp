@@ -56,9 +56,8 @@ void screenview::measure() {
     const double height = row(what).height / static_cast<double>(twips_to_pixel);
     const double before = scale;
     scale = std::min(whole.width() / width, whole.height() / height);
-    if (!has_painted && scale != before) { // drawn ahead for a size that it did not come up in
+    if (!has_painted && scale != before) // drawn ahead for a size that it did not come up in
         let_go();
-    }
     origin = {static_cast<int>((whole.width() - width * scale) / 2),
               static_cast<int>((whole.height() - height * scale) / 2)};
 }
