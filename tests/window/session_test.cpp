@@ -2,6 +2,7 @@
 #include "core/files.h"
 #include "core/play.h"
 #include "core/upward.h"
+#include "desktop/platform/sound.h"
 #include "desktop/platform/stablefile.h"
 #include "desktop/session/leaving.h"
 #include "desktop/session/onlyone.h"
@@ -178,6 +179,14 @@ TEST(Session, SavesElsewhereWhereThePlayerWishes) {
     EXPECT_TRUE(read_game_text(read, p.stored("other/game.dat")));
     EXPECT_TRUE(QDir(p.folder.filePath("game.dat")).exists());
     EXPECT_NE(p.stored("hscore.dat"), "") << "a file of its own place";
+}
+
+// The mixing module is loaded by the name of its one entry: where that is lost, there is silence and no
+// message.
+TEST(Session, HasItsSounds) {
+    program p;
+    p.start();
+    EXPECT_NE(sound_state().find("dummy"), std::string::npos) << sound_state();
 }
 
 TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {

@@ -73,11 +73,13 @@ class Machine:
         os.chmod(path, 0o755)
         return programs
 
-    def wait(self, what, look):
-        """Looks until there is something to be seen, and gives it."""
+    def wait(self, what, look, may_end=False):
+        """Looks until there is something to be seen, and gives it; the end of the program may be that."""
         end = time.time() + PATIENCE
         while time.time() < end:
-            assert self.process.poll() is None, f"the program ended while it should come to this: {what}"
+            if self.process.poll() is not None:
+                assert may_end, f"the program ended while it should come to this: {what}"
+                return None
             seen = look()
             if seen:
                 return seen
@@ -145,13 +147,14 @@ class Machine:
         self.key(*names)
 
     def menu(self, menu, entry):
-        """Opens a menu by Alt and its letter, and takes an entry by its letter once the menu stands."""
+        """Opens a menu by Alt and its letter, and takes an entry by its letter once the menu stands. With the
+        entry that ends the program the menu goes as well."""
         self.front(self.main)
         before = set(self.find(""))
         self.key("alt+" + menu)
         opened = self.wait(f"the menu {menu} opens", lambda: set(self.find("")) - before)
         self.key(entry)
-        self.wait(f"the menu {menu} closes", lambda: not opened & set(self.find("")))
+        self.wait(f"the menu {menu} closes", lambda: not opened & set(self.find("")), may_end=True)
 
     def click_at(self, window, place):
         """A click on the point of a window that `place` tells from its width and height."""
