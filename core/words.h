@@ -2,11 +2,9 @@
 // serves. They stay words: a script may set any other text, and a comparison is exact.
 #pragma once
 
-#include <string_view>
+#include "panel/word.h"
 
 namespace hustle {
-
-using word = std::string_view;
 
 // `reelNheld`, `holdsoffered`, `pickstopped`, `invincible`, `trailbusy`, `repeatpressed`; the answers
 // `repeatanswer` and `yesnoanswer`; the setting `flashlogo`.

@@ -10,7 +10,8 @@ namespace {
 
 void store_element(panel& p, const element_row& r) {
     element_state& e = at(p, r.id);
-    e.text = r.text;
+    if (e.text != r.text) // few screens are left with a text other than the one they come with
+        e.text = r.text;
     e.top = r.place.top;
     e.back = r.back;
     e.fore = r.what == kind::line ? 0 : r.fore;
@@ -119,8 +120,9 @@ bool take_tick(panel& p, std::int64_t until, timer& which) {
     const int pause = interval(p, tick.what);
     const std::int64_t next = tick.due + pause < p.now ? p.now + pause : tick.due + pause;
     // It goes behind all that are due by then, which move up by one.
+    const auto count = static_cast<std::size_t>(p.queued);
     std::size_t place = 1;
-    for (; place < static_cast<std::size_t>(p.queued) && p.queue[place].due <= next; ++place)
+    for (; place < count && p.queue[place].due <= next; ++place)
         p.queue[place - 1] = p.queue[place];
     p.queue[place - 1] = {next, tick.what};
     which = tick.what;

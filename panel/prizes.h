@@ -1,14 +1,14 @@
 // What a line wins, in pounds, for the machine and for the pictures of it.
 #pragma once
 
-#include <string_view>
+#include "panel/word.h"
 
 namespace hustle {
 
 inline constexpr float jackpot_win = 15;
 
 struct line_row {
-    std::string_view symbol; // three of it on the win line
+    word symbol; // three of it on the win line
     float prize;
 };
 inline constexpr line_row line_rows[] = {

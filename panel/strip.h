@@ -2,18 +2,18 @@
 #pragma once
 
 #include "panel/ids.h"
+#include "panel/word.h"
 
 #include <array>
 #include <cstdint>
-#include <string_view>
 
 namespace hustle {
 
 struct stop_row {
-    std::string_view symbol; // on the win line
-    art picture;             // it and the two beside it
-    std::int16_t number;     // of the number trail, 0 to 3
-    int frame_top;           // twips: where the frame of the reel guide stands for it
+    word symbol;         // on the win line
+    art picture;         // it and the two beside it
+    std::int16_t number; // of the number trail, 0 to 3
+    int frame_top;       // twips: where the frame of the reel guide stands for it
 };
 
 // Stop n is strip[n - 1].

@@ -53,15 +53,17 @@ bool whole_pence(float amount, short_text& text) {
     const double pence = std::abs(static_cast<double>(amount)) * 100;
     if (!(pence < 100000))
         return false;
-    const auto nearest = static_cast<unsigned>(std::floor(pence + 0.5));
+    const auto nearest = static_cast<unsigned>(pence + 0.5);
     if (std::abs(pence - nearest) > 0.49) // a half to the last place of a single
         return false;
     if (amount < 0 && nearest > 0)
         text.add("-");
     add_digits(text, nearest / 100);
-    const char pence_digits[] = {'.', static_cast<char>('0' + nearest % 100 / 10),
-                                 static_cast<char>('0' + nearest % 10)};
-    text.add({pence_digits, 3});
+    char* const end = text.data.data() + text.length;
+    end[0] = '.';
+    end[1] = static_cast<char>('0' + nearest % 100 / 10);
+    end[2] = static_cast<char>('0' + nearest % 10);
+    text.length += 3;
     return true;
 }
 

@@ -170,7 +170,7 @@ void stop_shock(game& g) {
 }
 
 struct stop_row {
-    std::string_view award;
+    word award;
     handler act;
 };
 
