@@ -159,7 +159,7 @@ void close_device() {
 
 } // namespace
 
-extern "C" const mixer_calls* hustle_mixer() {
+extern "C" [[gnu::visibility("default")]] const mixer_calls* hustle_mixer() {
     static constexpr mixer_calls calls{open_device, describe, turn_volume, play, obey, close_device};
     return &calls;
 }
