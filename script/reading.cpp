@@ -2,6 +2,7 @@
 
 #include "script/lexer.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -34,24 +35,28 @@ char32_t next_character(std::string_view text, std::size_t& i) {
 
 } // namespace
 
-std::string read_script(std::istream& from, std::string& text) {
-    text.resize(longest_script + 1);
-    from.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(from.gcount()));
-    if (from.bad() || !from.eof()) {
-        if (text.size() <= longest_script)
-            return "cannot be read";
-        return "is longer than " + std::to_string(longest_script) + " bytes";
+std::string read_script(std::istream& from, std::string& text, std::size_t most) {
+    constexpr std::size_t piece = 1 << 20;
+    text.clear();
+    while (from && text.size() <= most) {
+        const std::size_t had = text.size(), wanted = std::min(piece, most + 1 - had);
+        text.resize(had + wanted);
+        from.read(text.data() + had, static_cast<std::streamsize>(wanted));
+        text.resize(had + static_cast<std::size_t>(from.gcount()));
     }
+    if (text.size() > most)
+        return "is longer than " + std::to_string(most) + " bytes";
+    if (from.bad() || !from.eof())
+        return "cannot be read";
     return text.find('\0') == std::string::npos ? "" : "is no text";
 }
 
-std::string read_script_file(const std::string& path, std::string& text) {
+std::string read_script_file(const std::string& path, std::string& text, std::size_t most) {
     std::error_code unknown;
     if (std::filesystem::is_directory(path, unknown))
         return "is a folder";
     std::ifstream file(path, std::ios::binary);
-    return file ? read_script(file, text) : "cannot be read";
+    return file ? read_script(file, text, most) : "cannot be read";
 }
 
 std::string printable(std::string_view message) {

@@ -96,6 +96,9 @@ TEST(Script, TakesOnlyWholeTextsOfABoundedSize) {
     EXPECT_EQ(read_script_file("/", text), "is a folder");
     EXPECT_EQ(read_script_file("nowhere.txt", text), "cannot be read");
     EXPECT_EQ(read_script_file("/dev/zero", text), "is longer than 16777216 bytes");
+    std::istringstream seven("1234567"), six("123456");
+    EXPECT_EQ(read_script(seven, text, 6), "is longer than 6 bytes");
+    EXPECT_EQ(read_script(six, text, 6), "");
     std::istringstream binary(std::string("run 5\0", 6)), plain("run 5");
     EXPECT_EQ(read_script(binary, text), "is no text");
     EXPECT_EQ(read_script(plain, text), "");

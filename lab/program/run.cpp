@@ -182,7 +182,7 @@ void tell_stuck(const terms& t, const stuck_machine& where) {
     const std::string name = "hustlelab-stuck-" + std::to_string(where.machine) + ".txt";
     write_file(name, script);
     std::cerr << "hustlelab: machine " << where.machine << " has begun no play for " << t.patience
-              << " minutes on its clock; the script that leads there is " << name << '\n';
+              << " minutes on its clock; hustlescript --long " << name << " leads there\n";
 }
 
 } // namespace
