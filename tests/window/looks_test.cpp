@@ -15,6 +15,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace hustle::desktop {
 
@@ -22,7 +23,8 @@ namespace {
 
 constexpr int across = 32, down = 25; // fields
 constexpr int frames = 8;             // of a state
-constexpr int frame_ms = 500;
+constexpr int pictures = 10;          // of a frame
+constexpr int picture_ms = 50;
 constexpr int rounding = 2;   // of 255: another compiler's
 constexpr int lettering = 25; // of the table's forms, which bear the system's letters
 
@@ -33,23 +35,33 @@ struct look {
 };
 
 QImage fields_of(const QImage& picture) {
-    return picture.scaled(across, down, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return picture.scaled(across, down, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_RGB32);
 }
 
-// The frames of a state side by side; black where its script is over.
+// The frames of a state side by side, each the mean of its pictures, so that no movement falls between two;
+// black where the script is over.
 QImage film_of(const QString& script, bool reduced) {
     QImage strip(across * frames, down, QImage::Format_RGB32);
     strip.fill(Qt::black);
-    QPainter painter(&strip);
     eye e;
+    e.picture_ms = picture_ms;
     e.show.reduced = reduced;
-    std::int64_t first = -1;
+    std::array<int, 4 * across * down> sums{}; // of the bytes of the fields
     int taken = 0;
-    e.sees = [&](const QImage& picture, const QRegion&, std::int64_t ms) {
-        first = first < 0 ? ms : first;
-        if (taken == frames || ms < first + (taken + 1) * frame_ms)
+    e.sees = [&](const QImage& picture, const QRegion&, std::int64_t) {
+        if (taken >= frames * pictures)
             return;
-        painter.drawImage(taken++ * across, 0, fields_of(picture));
+        const QImage fields = fields_of(picture);
+        for (std::size_t i = 0; i < sums.size(); ++i)
+            sums[i] += fields.constBits()[i];
+        if (++taken % pictures != 0)
+            return;
+        QImage mean(across, down, QImage::Format_RGB32);
+        for (std::size_t i = 0; i < sums.size(); ++i)
+            mean.bits()[i] = static_cast<uchar>(sums[i] / pictures);
+        sums.fill(0);
+        QPainter(&strip).drawImage((taken / pictures - 1) * across, 0, mean);
     };
     EXPECT_EQ(watch_file(e, script.toStdString()), 0);
     return strip;

@@ -1,0 +1,168 @@
+// What a player does to the window itself: keys, clicks, sizes, the View menu and what is kept of it.
+#include "core/upward.h"
+#include "desktop/window/geometry.h"
+#include "desktop/window/keys.h"
+#include "panel/sheet.h"
+#include "screens/events.h"
+#include "show/places.h"
+#include "tests/window/program.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QTest>
+
+namespace hustle::desktop {
+
+namespace {
+
+TEST(View, IsKeptAndADamagedPartOfItIsAsAtTheFirstStart) {
+    const program p; // its folder
+    view_settings view;
+    EXPECT_TRUE(view.hints && view.recording && view.volume == 100);
+    view = {true, true, false, false, true, 25, true, "ANNA", "place"};
+    save_view_settings(view);
+    const view_settings read = load_view_settings();
+    EXPECT_TRUE(read.flashing_asked && read.reduced_flashing && read.muted && read.full_screen);
+    EXPECT_FALSE(read.hints || read.recording);
+    EXPECT_EQ(read.volume, 25);
+    EXPECT_EQ(read.player, "ANNA");
+    EXPECT_EQ(read.place, "place");
+    for (const auto& [stored, volume] : {std::pair{"900", 100}, {"-3", 0}, {"loud", 0}}) {
+        QFile file(p.folder.filePath("view.ini"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(QByteArray("[General]\nvolume=") + stored + "\n");
+        file.close();
+        EXPECT_EQ(load_view_settings().volume, volume) << stored;
+    }
+}
+
+TEST(View, KeysOfItWorkInASideWindowToo) {
+    program p;
+    p.start();
+    send(p.s, {input::kind::press, screen::main, element::rguidemenu});
+    QWidget* const guide = p.s.side[static_cast<std::size_t>(screen::reelguide)];
+    ASSERT_NE(guide, nullptr);
+    p.until([&] { return guide->isActiveWindow(); });
+    QTest::keyClick(guide, Qt::Key_M, Qt::ControlModifier);
+    EXPECT_TRUE(p.s.view.muted);
+    EXPECT_TRUE(load_view_settings().muted);
+    const int before = p.s.window->main_view().width();
+    QTest::keyClick(guide, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_NEAR(p.s.window->main_view().width(), before * 0.8, 2);
+    QTest::keyClick(guide, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_NEAR(p.s.window->main_view().width(), before, 3);
+    QTest::keyClick(guide, Qt::Key_F11);
+    EXPECT_TRUE(p.s.window->isFullScreen());
+    QTest::keyClick(p.s.window, Qt::Key_Escape);
+    EXPECT_FALSE(p.s.window->isFullScreen());
+    QTest::keyClick(guide, Qt::Key_Escape); // closes it
+    EXPECT_FALSE(is_loaded(p.s.g.p, screen::reelguide));
+    QTest::keyClick(p.s.window, Qt::Key_Q, Qt::ControlModifier);
+    p.until_over();
+}
+
+TEST(View, EntriesOfItDoAsTheySay) {
+    program p;
+    p.start();
+    const auto take = [&](const QString& text) {
+        for (QAction* a : p.s.window->findChildren<QAction*>())
+            if (a->text() == text)
+                return a->trigger();
+        ADD_FAILURE() << text.toStdString();
+    };
+    take("50 %");
+    EXPECT_EQ(p.s.window->main_view().width(), p.s.window->main_view().panel_size().width() / 2);
+    take("25 %");
+    EXPECT_EQ(load_view_settings().volume, 25);
+    take("&Hints");
+    EXPECT_FALSE(p.s.view.hints);
+    take("&Reduced Flashing");
+    EXPECT_TRUE(p.s.view.reduced_flashing);
+    take("Recor&d the Session");
+    EXPECT_FALSE(load_view_settings().recording);
+}
+
+// From the place that it has on the panel, at whatever size and however many pixels to a point.
+TEST(View, AButtonLiesWhereItIsSeen) {
+    program p;
+    p.start();
+    ++p.s.held;
+    for (const QSize size : {QSize(640, 560), QSize(900, 640)})
+        for (const screen where : {screen::main, screen::feature}) {
+            if (where == screen::feature && !is_loaded(p.s.g.p, where))
+                load_screen(p.s.g, where);
+            p.s.window->resize(size);
+            refresh(p.s);
+            screenview& view = where == screen::main ? p.s.window->main_view() : p.s.window->board_view();
+            const QSizeF panel = view.panel_size();
+            const double zoom = std::min(view.width() / panel.width(), view.height() / panel.height());
+            const QPointF corner((view.width() - panel.width() * zoom) / 2,
+                                 (view.height() - panel.height() * zoom) / 2);
+            for (const element_row& r : elements_of(where)) {
+                if (!takes_press(r.what) || !is_visible(p.s.g.p, r.id))
+                    continue;
+                const rect at = seen_place(p.s.g.p, r.id);
+                for (const bool live : {true, false}) {
+                    set_enabled(p.s.g.p, r.id, live);
+                    for (const QPointF share : {QPointF(0.1, 0.1), QPointF(0.9, 0.9)}) {
+                        const QPointF point =
+                            corner + QPointF(at.left + share.x() * at.width, at.top + share.y() * at.height) *
+                                         (zoom / 15);
+                        QMouseEvent over(QEvent::MouseMove, point, view.mapToGlobal(point), Qt::NoButton, {},
+                                         {});
+                        QApplication::sendEvent(&view, &over);
+                        EXPECT_EQ(view.cursor().shape() == Qt::PointingHandCursor, live)
+                            << r.name << " at " << size.width();
+                    }
+                }
+            }
+            unload_screen(p.s.g, screen::feature);
+        }
+    --p.s.held;
+}
+
+TEST(View, KeysAreTheMachinesOwn) {
+    const auto code = [](int key, Qt::KeyboardModifiers with = {}) {
+        return machine_key(QKeyEvent(QEvent::KeyPress, key, with));
+    };
+    EXPECT_EQ(code(Qt::Key_Space), 32);
+    EXPECT_EQ(code(Qt::Key_Return), 13);
+    EXPECT_EQ(code(Qt::Key_Enter, Qt::KeypadModifier), 13);
+    EXPECT_EQ(code(Qt::Key_F1), 112);
+    EXPECT_EQ(code(Qt::Key_C), 67);
+    EXPECT_EQ(code(Qt::Key_QuoteLeft), 192);
+    EXPECT_EQ(code(Qt::Key_notsign), 223);
+    for (int figure = 0; figure <= 3; ++figure) {
+        EXPECT_EQ(code(Qt::Key_0 + figure), '0' + figure);
+        EXPECT_EQ(code(Qt::Key_0 + figure, Qt::KeypadModifier), 96 + figure);
+    }
+    for (const int other : {Qt::Key_4, Qt::Key_Slash, Qt::Key_A, Qt::Key_F2, Qt::Key_Escape})
+        EXPECT_EQ(code(other), 0) << other;
+    for (const auto with : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
+        EXPECT_EQ(code(Qt::Key_C, with), 0);
+}
+
+TEST(View, TheFirstSizeIsTheLargestStepThatFits) {
+    const QSize panel(800, 600), around(20, 70);
+    const auto zoom = [&](QSize area) { return fitting_size(panel, around, area).width() / 800.0; };
+    const auto area_for = [&](double step) { // just enough, with a twentieth left free
+        return QSize(qCeil((800 * step + 20) / 0.95), qCeil((600 * step + 70) / 0.95));
+    };
+    for (const double step : {3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0, 0.9, 0.8, 0.75, 0.6, 0.5}) {
+        EXPECT_DOUBLE_EQ(zoom(area_for(step)), step);
+        EXPECT_LT(zoom(area_for(step) - QSize(2, 0)), step);
+        EXPECT_LT(zoom(area_for(step) - QSize(0, 2)), step);
+    }
+    EXPECT_DOUBLE_EQ(zoom({9000, 9000}), 3);
+    EXPECT_NEAR(zoom(area_for(0.45)), 0.45, 0.005); // smaller than every step: as it fits
+    EXPECT_DOUBLE_EQ(zoom({100, 100}), 0.4);
+}
+
+} // namespace
+
+} // namespace hustle::desktop
