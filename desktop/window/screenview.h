@@ -17,6 +17,9 @@ namespace hustle::desktop {
 
 struct session;
 
+// A text box that the player writes in; the others only show.
+inline bool is_edited(element e) { return e == element::Entername_Text1; }
+
 class screenview : public QWidget {
 public:
     screenview(session&, hustle::screen, QWidget* parent = nullptr);
