@@ -123,9 +123,9 @@ void first_painted(session& s) {
     QTimer::singleShot(0, &s.wake, [&s] { after_first_frame(s); });
 }
 
-void set_loudness(session& s) {
-    set_volume(s.view.muted || s.g.m.soundstate != setting::on ? 0 : s.view.volume);
-}
+int loudness(const session& s) { return s.view.muted || s.g.m.soundstate != setting::on ? 0 : s.view.volume; }
+
+void set_loudness(session& s) { set_volume(loudness(s)); }
 
 void set_reduced_flashing(session& s, bool on) {
     QAction* const entry = s.window != nullptr ? s.window->findChild<QAction*>("reduced_flashing") : nullptr;

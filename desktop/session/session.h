@@ -78,7 +78,9 @@ void activated(session&, screen);
 
 // Brings the windows into step with the panel.
 void refresh(session&);
-// Brings the sound to the volume that the settings and the machine's own switch ask for.
+// The volume that the settings and the machine's own switch ask for, in percent of the loudest; 0: silence.
+int loudness(const session&);
+// Brings the sound to it.
 void set_loudness(session&);
 // Makes the window of main, before it is shown.
 void open_main(session&);

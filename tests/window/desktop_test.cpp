@@ -71,6 +71,10 @@ TEST(Names, TellEveryButtonLampAndLine) {
     EXPECT_EQ(spoken_name(b.g, element::displayline), "I LIKE IT");
     set_fore(b.g.p, element::numberfour, 65535);
     EXPECT_EQ(spoken_name(b.g, element::numberfour), "Trail 4: BONUS, lit");
+    set_caption(b.g.p, element::statistics_text1, "   £1.50 ");
+    EXPECT_EQ(spoken_name(b.g, element::statistics_text1), "£1.50");
+    set_caption(b.g.p, element::statistics_text1, "  ");
+    EXPECT_EQ(spoken_name(b.g, element::statistics_text1), "");
 }
 
 TEST(Letters, HaveALookForEverySignOfTheMachine) {

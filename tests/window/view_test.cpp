@@ -79,6 +79,12 @@ TEST(View, EntriesOfItDoAsTheySay) {
     EXPECT_EQ(p.s.window->main_view().width(), p.s.window->main_view().panel_size().width() / 2);
     take("25 %");
     EXPECT_EQ(load_view_settings().volume, 25);
+    EXPECT_EQ(loudness(p.s), 25);
+    take("&Mute");
+    EXPECT_EQ(loudness(p.s), 0);
+    take("&Mute");
+    send(p.s, {input::kind::press, screen::main, element::soundoff});
+    EXPECT_EQ(loudness(p.s), 0) << "the machine's own switch";
     take("&Hints");
     EXPECT_FALSE(p.s.view.hints);
     take("&Reduced Flashing");
@@ -123,6 +129,32 @@ TEST(View, AButtonLiesWhereItIsSeen) {
             }
             unload_screen(p.s.g, screen::feature);
         }
+    --p.s.held;
+}
+
+// In several parts at once, as lamps far from one another are.
+TEST(View, APartIsPaintedAsTheWholeIs) {
+    program p;
+    p.start();
+    screenview& view = p.s.window->main_view();
+    ++p.s.held;
+    const QImage whole = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QRegion parts = QRegion(view.widget_rect(element::start))
+                              .united(view.widget_rect(element::hold1))
+                              .united(view.widget_rect(element::displayline))
+                              .united(view.widget_rect(element::numberone));
+    QImage painted(whole.size(), QImage::Format_RGB32);
+    painted.setDevicePixelRatio(view.devicePixelRatioF());
+    painted.fill(Qt::magenta);
+    view.render(&painted, parts.boundingRect().topLeft(), parts);
+    int unlike = 0, points = 0;
+    const double ratio = view.devicePixelRatioF();
+    for (const QRect& part : parts)
+        for (int y = qCeil(part.top() * ratio); y < qFloor(part.bottom() * ratio); ++y)
+            for (int x = qCeil(part.left() * ratio); x < qFloor(part.right() * ratio); ++x, ++points)
+                unlike += whole.pixel(x, y) != painted.pixel(x, y);
+    EXPECT_GT(points, 1000);
+    EXPECT_EQ(unlike, 0) << "of " << points;
     --p.s.held;
 }
 
