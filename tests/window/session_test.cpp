@@ -11,6 +11,7 @@
 #include "desktop/window/geometry.h"
 #include "desktop/window/mainwindow.h"
 #include "screens/events.h"
+#include "script/commands.h"
 #include "script/dump.h"
 #include "tests/window/program.h"
 
@@ -29,6 +30,7 @@
 #include <QWindow>
 
 #include <csignal>
+#include <sstream>
 #include <thread>
 #include <utility>
 
@@ -262,6 +264,42 @@ TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
     const script::names shown(p.s.g);
     EXPECT_EQ(w.printed.str(), "hash = " + script::hash_text(shown) + "\n");
     EXPECT_EQ(p.stored("game.dat"), "");
+}
+
+// Draws, boxes and what they were answered, keys and letters among them.
+TEST(Session, IsWrittenDownSoThatItCanBeHadAgain) {
+    program p;
+    p.start();
+    const auto go_on = [&](std::int64_t ms) {
+        const auto then = p.s.g.p.now;
+        p.until([&] { return p.s.g.p.now > then + ms; });
+    };
+    const auto press = [&](element e) { send(p.s, {input::kind::press, screen::main, e}); };
+    for (const char* const answer : {"&No", "&Yes"}) {
+        press(element::start);
+        go_on(1200);
+        press(element::transfer); // nothing in the bank: a box
+        send(p.s, {input::kind::key, screen::main, element::total, 32});
+        p.button = answer;
+        press(element::newgame);
+        p.button = "&OK";
+        go_on(300);
+    }
+    press(element::rguidemenu);
+    send(p.s, {input::kind::close, screen::reelguide});
+    go_on(100);
+    end_session(p.s);
+    EXPECT_GE(p.told.size(), 4);
+    const std::string text = p.stored("session.txt");
+    std::ostringstream printed, wrong;
+    EXPECT_EQ(script::run_script(text, "session", printed, wrong), 0) << wrong.str();
+    std::string wanted;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);)
+        if (line.starts_with("hash # "))
+            wanted += "hash = " + line.substr(7) + "\n";
+    EXPECT_EQ(printed.str(), wanted) << text;
+    EXPECT_NE(wanted, "");
 }
 
 TEST(Session, ComesBackWithTheSizeItHasOutsideFullScreen) {
