@@ -1,6 +1,7 @@
 // The parts of the window that need no screen: its clock, its names and its letters.
 #include "art/art.h"
 #include "art/dotfont.h"
+#include "desktop/platform/readypicture.h"
 #include "panel/sheet.h"
 #include "show/clock.h"
 #include "show/spokennames.h"
@@ -9,6 +10,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -83,6 +85,17 @@ TEST(Letters, HaveALookForEverySignOfTheMachine) {
         EXPECT_NE(glyph_of(letter).rows, unknown) << static_cast<unsigned>(letter);
     EXPECT_EQ(glyph_of(U'É').rows, glyph_of(U'E').rows);
     EXPECT_NE(glyph_of(U'O').rows, glyph_of(U'0').rows);
+}
+
+TEST(ReadyPicture, ComesBackAsItWasOrNotAtAll) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("picture");
+    QImage picture(3, 2, QImage::Format_RGB32);
+    picture.fill(QColor(10, 200, 30));
+    ASSERT_TRUE(store_ready(picture, file));
+    EXPECT_EQ(read_ready(file, {3, 2}).convertToFormat(QImage::Format_RGB32), picture);
+    EXPECT_TRUE(read_ready(file, {2, 2}).isNull());
+    EXPECT_TRUE(read_ready(folder.filePath("nowhere"), {3, 2}).isNull());
 }
 
 // One sees from afar where the light stands on the ring.

@@ -52,6 +52,12 @@ def play(display, folder):
         machine.key("0")  # the same by key
         machine.key_in("Nothing in Bank", "Escape")
         machine.gone("Nothing in Bank")
+        machine.keyboard("fr")  # on which that key writes an accented letter
+        machine.front(machine.main)
+        machine.key("19")  # by its place
+        machine.key_in("Nothing in Bank", "Escape")
+        machine.gone("Nothing in Bank")
+        machine.keyboard("us")
 
         machine.menu("o", "s")  # Slow Reelspin
         machine.until(reelspeed="2")

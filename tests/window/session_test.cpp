@@ -195,6 +195,21 @@ TEST(Session, HasItsSounds) {
     EXPECT_NE(state.find("dummy"), std::string::npos) << state;
 }
 
+TEST(Session, HoldsTheMachineThroughAWaitAndGoesOnBehindIt) {
+    program p;
+    p.start();
+    const auto then = p.s.g.p.now;
+    const auto credits = p.s.g.m.credits;
+    QTimer::singleShot(20, [&] { send(p.s, {input::kind::press, screen::main, element::start}); });
+    QElapsedTimer since;
+    since.start();
+    p.s.world.wait(60);
+    EXPECT_GE(since.elapsed(), 60);
+    EXPECT_EQ(p.s.g.p.now, then);
+    EXPECT_EQ(p.s.g.m.credits, credits) << "a press in the wait";
+    p.until([&] { return p.s.g.p.now > then; });
+}
+
 TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {
     program p;
     p.start();

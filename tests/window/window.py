@@ -141,6 +141,10 @@ class Machine:
     def key(self, *names):
         self.xdo("key", *names)
 
+    def keyboard(self, layout):
+        """Lays out the keys as a country has them."""
+        subprocess.run(["setxkbmap", layout], env=self.env, check=True)
+
     def key_in(self, title, *names):
         """Keys for a window that comes up by itself."""
         self.front(self.window(title))
