@@ -1,6 +1,7 @@
 // The parts of the window that need no screen: its clock, its names and its letters.
 #include "art/art.h"
 #include "art/dotfont.h"
+#include "core/bank.h"
 #include "desktop/platform/readypicture.h"
 #include "panel/sheet.h"
 #include "show/clock.h"
@@ -77,6 +78,44 @@ TEST(Names, TellEveryButtonLampAndLine) {
     EXPECT_EQ(spoken_name(b.g, element::statistics_text1), "£1.50");
     set_caption(b.g.p, element::statistics_text1, "  ");
     EXPECT_EQ(spoken_name(b.g, element::statistics_text1), "");
+}
+
+TEST(Names, TellWhatALookTells) {
+    testgame b;
+    b.run(650);
+    game& g = b.g;
+    const auto with = [&](element e, art look) {
+        set_picture(g.p, e, look);
+        return spoken_name(g, e);
+    };
+    EXPECT_EQ(with(element::hold2, art::nudgepiclight), "Nudge reel 2");
+    EXPECT_EQ(with(element::hold2, art::stoppicdark), "Stop reel 2");
+    EXPECT_EQ(with(element::hold2, art::holdpicdark), "Hold reel 2");
+    g.m.holdsoffered = flag::yes;
+    EXPECT_EQ(spoken_name(g, element::hold2), "Hold reel 2, offered");
+    g.m.holdsbarred = truth::is;
+    EXPECT_EQ(spoken_name(g, element::hold2), "Hold reel 2");
+    g.m.reels[1].held = flag::yes;
+    EXPECT_EQ(spoken_name(g, element::hold2), "Hold reel 2, held");
+    EXPECT_EQ(with(element::nudgenow, art::nudgenowpiclight), "Nudge now");
+    EXPECT_EQ(with(element::nudgenow, art::nudgenowpicdark), "Nudge lamp, dark");
+    EXPECT_EQ(with(element::feature_bomb2, art::bombiconlight), "Bomb 2, lit");
+    EXPECT_EQ(with(element::feature_dicepic, art::dice6pic), "Die: 6");
+    g.m.nudges = 3;
+    EXPECT_EQ(spoken_name(g, element::picture1), "Nudges: 3");
+    g.m.reels[2].sym = "bseven";
+    EXPECT_EQ(spoken_name(g, element::reel3), "Reel 3: blue seven");
+    g.m.currency = setting::usd;
+    g.m.bank = 1;
+    g.m.win = 3.6F;
+    g.m.credits = 1;
+    figuresline(g);
+    EXPECT_EQ(spoken_name(g, element::displayline), "Bank 1 dollar, 1 credit");
+    g.m.currency = setting::gbp;
+    g.m.bank = 0.2F;
+    start_timer(g.p, timer::wintobank);
+    figuresline(g);
+    EXPECT_EQ(spoken_name(g, element::displayline), "Bank 0 pounds 20, win 3 pounds 60, 1 credit");
 }
 
 TEST(Letters, HaveALookForEverySignOfTheMachine) {

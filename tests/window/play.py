@@ -57,6 +57,10 @@ def play(display, folder):
         machine.key("19")  # by its place
         machine.key_in("Nothing in Bank", "Escape")
         machine.gone("Nothing in Bank")
+        machine.front(machine.main)
+        machine.key("49", "10", "11", "12")  # left of the figures, and three of them
+        for code in 192, 49, 50, 51:
+            machine.wait(f"the key {code}", lambda line=f"\nkey {code} main\n": line in machine.told())
         machine.keyboard("us")
 
         machine.menu("o", "s")  # Slow Reelspin

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QPainter>
 #include <QScreen>
+#include <QTest>
 #include <QWindow>
 
 #include <sstream>
@@ -181,6 +182,20 @@ art light_of(art dark) {
         if (name(static_cast<art>(a)) == wanted)
             return static_cast<art>(a);
     return art::none;
+}
+
+TEST(Seen, AButtonGoesDownUnderTheMouseAndComesUp) {
+    seen w;
+    w.settle(300);
+    screenview& view = w.s.window->main_view();
+    const QPoint middle = view.widget_rect(element::start).center();
+    const QImage up = w.on_screen();
+    QTest::mousePress(&view, Qt::LeftButton, {}, middle);
+    EXPECT_TRUE(w.comes_whole());
+    EXPECT_NE(w.on_screen(), up);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, middle);
+    EXPECT_TRUE(w.comes_whole());
+    EXPECT_EQ(w.on_screen(), up);
 }
 
 TEST(Seen, EachLampAndLineChangesItsOwnPlaceAlone) {

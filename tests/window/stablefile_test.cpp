@@ -179,6 +179,7 @@ TEST(StableFile, IsNoLinkNoPipeAndNoFolder) {
     EXPECT_EQ(read_stored("/dev", "zero").what, unreadable);
     EXPECT_EQ(read_stored(f.path, "nothing").what, missing);
     EXPECT_NE(why_not_writable(f / "nowhere"), "");
+    std::ofstream(f / "trial.new") << "of a run that was killed";
     EXPECT_EQ(why_not_writable(f.path), "");
     EXPECT_EQ(f.count(), 4) << "the trial is gone";
 }

@@ -2,6 +2,7 @@
 #include "core/upward.h"
 #include "desktop/window/geometry.h"
 #include "desktop/window/keys.h"
+#include "desktop/window/viewmenu.h"
 #include "panel/sheet.h"
 #include "screens/events.h"
 #include "show/places.h"
@@ -41,6 +42,21 @@ TEST(View, IsKeptAndADamagedPartOfItIsAsAtTheFirstStart) {
     }
 }
 
+TEST(View, AsksOnceAboutFlashingAndTakesTheAnswer) {
+    for (const char* const answer :
+         {"&Reduce flashing", "&Flash as the real machine does", "to close the box"}) {
+        program p;
+        p.s.view.flashing_asked = false;
+        p.button = answer;
+        ask_about_flashing(p.s);
+        const bool reduced = std::string_view(answer) != "&Flash as the real machine does";
+        EXPECT_EQ(p.s.view.reduced_flashing, reduced) << answer;
+        EXPECT_EQ(load_view_settings().reduced_flashing, reduced) << answer;
+        ask_about_flashing(p.s);
+        EXPECT_EQ(p.told.size(), 1);
+    }
+}
+
 TEST(View, KeysOfItWorkInASideWindowToo) {
     program p;
     p.start();
@@ -77,6 +93,8 @@ TEST(View, EntriesOfItDoAsTheySay) {
     };
     take("50 %");
     EXPECT_EQ(p.s.window->main_view().width(), p.s.window->main_view().panel_size().width() / 2);
+    p.s.window->resize(1, 1);
+    EXPECT_EQ(p.s.window->main_view().size(), QSize(280, 197)) << "as small as it can be read";
     take("25 %");
     EXPECT_EQ(load_view_settings().volume, 25);
     EXPECT_EQ(loudness(p.s), 25);
