@@ -72,6 +72,8 @@ TEST(Names, TellEveryButtonLampAndLine) {
     EXPECT_EQ(spoken_name(b.g, element::reel1), "Reel 1: bell");
     set_caption(b.g.p, element::displayline, "    xxx I LIKE IT xxx");
     EXPECT_EQ(spoken_name(b.g, element::displayline), "I LIKE IT");
+    set_caption(b.g.p, element::displayline, "       * REEL SKILL *");
+    EXPECT_EQ(spoken_name(b.g, element::displayline), "REEL SKILL");
     set_fore(b.g.p, element::numberfour, 65535);
     EXPECT_EQ(spoken_name(b.g, element::numberfour), "Trail 4: BONUS, lit");
     set_caption(b.g.p, element::statistics_text1, "   £1.50 ");
