@@ -184,6 +184,19 @@ art light_of(art dark) {
     return art::none;
 }
 
+TEST(Seen, AWinGlowsAndLetsCoinsRise) {
+    seen w;
+    w.settle(300);
+    const QImage before = w.painted_anew();
+    w.s.show.win.glow = 1;
+    const QImage glowing = w.painted_anew();
+    EXPECT_NE(glowing, before);
+    w.s.show.win.coins.push_back({.born = 0, .x = 352, .y = 284, .opacity = 1});
+    EXPECT_NE(w.painted_anew(), glowing);
+    w.s.show.win = {};
+    EXPECT_EQ(w.painted_anew(), before);
+}
+
 TEST(Seen, AButtonGoesDownUnderTheMouseAndComesUp) {
     seen w;
     w.settle(300);
