@@ -1,11 +1,14 @@
 // What a player does to the window itself: keys, clicks, sizes, the View menu and what is kept of it.
 #include "core/upward.h"
 #include "desktop/window/geometry.h"
+#include "desktop/window/hintline.h"
 #include "desktop/window/keys.h"
 #include "desktop/window/viewmenu.h"
 #include "panel/sheet.h"
 #include "screens/events.h"
+#include "show/hints.h"
 #include "show/places.h"
+#include "show/spokennames.h"
 #include "tests/window/program.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +18,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QTest>
 
 namespace hustle::desktop {
@@ -109,6 +113,63 @@ TEST(View, EntriesOfItDoAsTheySay) {
     EXPECT_TRUE(p.s.view.reduced_flashing);
     take("Recor&d the Session");
     EXPECT_FALSE(load_view_settings().recording);
+}
+
+TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
+    program p;
+    p.start();
+    screenview& view = p.s.window->main_view();
+    const auto button = [&](element e) -> QPushButton* {
+        const QString name = QString::fromStdString(spoken_name(p.s.g, e));
+        for (QPushButton* b : view.findChildren<QPushButton*>())
+            if (b->accessibleName() == name && b->geometry() == view.widget_rect(e))
+                return b;
+        return nullptr;
+    };
+    p.until([&] { return button(element::start) != nullptr; }); // once the pictures are drawn ahead
+    for (const element_row& r : elements_of(screen::main))
+        if (takes_press(r.what) && r.what != kind::entry) {
+            EXPECT_NE(button(r.id), nullptr) << r.name;
+        }
+    QPushButton* const start = button(element::start);
+    const QRect ring = start->geometry();
+    const QImage without = view.grab(ring).toImage();
+    start->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(view.grab(ring).toImage(), without) << "a mouse needs no ring";
+    start->clearFocus();
+    p.until([&] { return p.s.window->isActiveWindow(); });
+    start->setFocus(Qt::TabFocusReason);
+    EXPECT_NE(view.grab(ring).toImage(), without);
+    const auto credits = p.s.g.m.credits;
+    QTest::keyClick(start, Qt::Key_Return);
+    EXPECT_EQ(p.s.g.m.credits, credits - 1);
+    EXPECT_FALSE(start->isEnabled()) << "the reels turn";
+    p.until([&] { return is_enabled(p.s.g.p, element::start); });
+    EXPECT_TRUE(start->isEnabled());
+    EXPECT_TRUE(start->hasFocus()) << "it comes back";
+}
+
+TEST(View, TheHintLineSaysWhatTheMachineTakes) {
+    program p;
+    p.start();
+    auto* const line = p.s.window->findChild<hintline*>();
+    ASSERT_NE(line, nullptr);
+    const QList<QLabel*> labels = line->findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels[0]->text().toStdString(), hint(p.s.g));
+    EXPECT_EQ(labels[1]->text().toStdString(), bank_label(p.s.g) + "   " + credits_label(p.s.g));
+    send(p.s, {input::kind::press, screen::main, element::start});
+    p.until([&] { return p.s.g.p.now > 2000; });
+    EXPECT_EQ(labels[0]->text().toStdString(), hint(p.s.g));
+    EXPECT_EQ(labels[1]->text().toStdString(), bank_label(p.s.g) + "   " + credits_label(p.s.g));
+    for (const int width : {320, 800, 2400}) {
+        const int high = hintline::height_at(width);
+        line->resize(width, high);
+        EXPECT_EQ(line->height(), high);
+        EXPECT_GT(high, labels[0]->font().pixelSize());
+        EXPECT_GE(labels[0]->font().pixelSize(), 10);
+    }
+    EXPECT_GT(hintline::height_at(2400), hintline::height_at(800));
 }
 
 // From the place that it has on the panel, at whatever size and however many pixels to a point.
