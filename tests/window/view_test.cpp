@@ -152,14 +152,19 @@ TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
 TEST(View, TheHintLineSaysWhatTheMachineTakes) {
     program p;
     p.start();
-    auto* const line = p.s.window->findChild<hintline*>();
+    hintline* line = nullptr;
+    for (QWidget* w : p.s.window->findChildren<QWidget*>())
+        if (auto* const found = dynamic_cast<hintline*>(w))
+            line = found;
     ASSERT_NE(line, nullptr);
     const QList<QLabel*> labels = line->findChildren<QLabel*>();
     ASSERT_EQ(labels.size(), 2);
+    refresh(p.s); // else it is as the last tick left it
     EXPECT_EQ(labels[0]->text().toStdString(), hint(p.s.g));
     EXPECT_EQ(labels[1]->text().toStdString(), bank_label(p.s.g) + "   " + credits_label(p.s.g));
     send(p.s, {input::kind::press, screen::main, element::start});
     p.until([&] { return p.s.g.p.now > 2000; });
+    refresh(p.s);
     EXPECT_EQ(labels[0]->text().toStdString(), hint(p.s.g));
     EXPECT_EQ(labels[1]->text().toStdString(), bank_label(p.s.g) + "   " + credits_label(p.s.g));
     for (const int width : {320, 800, 2400}) {
