@@ -23,6 +23,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSessionManager>
@@ -271,10 +272,7 @@ TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
     send(p.s, {input::kind::close, screen::main});
     EXPECT_FALSE(p.s.g.p.over) << "the player plays a script that is watched";
     w.speed = 20;
-    p.until([&] {
-        const std::scoped_lock held(w.lock);
-        return w.ended && w.waits != nullptr && w.waits->p.now == p.s.g.p.now;
-    });
+    p.until([&] { return w.told != nullptr && w.told->text().contains("has ended"); }); // and is shown
     stop_watching(w);
     const script::names shown(p.s.g);
     EXPECT_EQ(w.printed.str(), "hash = " + script::hash_text(shown) + "\n");
