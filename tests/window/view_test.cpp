@@ -15,11 +15,15 @@
 
 #include <QAction>
 #include <QFile>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
+
+#include <algorithm>
 
 namespace hustle::desktop {
 
@@ -131,6 +135,11 @@ TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
         if (takes_press(r.what) && r.what != kind::entry) {
             EXPECT_NE(button(r.id), nullptr) << r.name;
         }
+    const auto lines = view.findChildren<QLabel*>();
+    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&](const QLabel* l) {
+        return l->geometry() == view.widget_rect(element::displayline) &&
+               l->accessibleName().toStdString() == spoken_name(p.s.g, element::displayline);
+    }));
     QPushButton* const start = button(element::start);
     const QRect ring = start->geometry();
     const QImage without = view.grab(ring).toImage();
@@ -147,6 +156,49 @@ TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
     p.until([&] { return is_enabled(p.s.g.p, element::start); });
     EXPECT_TRUE(start->isEnabled());
     EXPECT_TRUE(start->hasFocus()) << "it comes back";
+}
+
+TEST(View, TheNameFormTakesLettersAndWarnsOfThoseThatAreNotSeen) {
+    program p;
+    p.start();
+    load_screen(p.s.g, screen::Entername);
+    refresh(p.s);
+    QWidget* const form = p.s.side[static_cast<std::size_t>(screen::Entername)];
+    ASSERT_NE(form, nullptr);
+    auto* const box = form->findChild<QLineEdit*>();
+    ASSERT_NE(box, nullptr);
+    const QLabel* warning = nullptr;
+    for (const QLabel* label : form->findChildren<QLabel*>())
+        if (label->text().contains("fifteen"))
+            warning = label;
+    ASSERT_NE(warning, nullptr);
+    box->clear();
+    QTest::keyClicks(box, "Ada Lovelace Ki"); // fifteen
+    EXPECT_EQ(caption(p.s.g.p, element::Entername_Text1), "Ada Lovelace Ki");
+    EXPECT_FALSE(warning->isVisible());
+    QTest::keyClicks(box, "n");
+    EXPECT_TRUE(warning->isVisible());
+    EXPECT_GT(warning->geometry().top(), box->geometry().bottom());
+    EXPECT_LT(warning->font().pixelSize(), box->font().pixelSize());
+    EXPECT_LT(box->font().pixelSize(), box->height());
+    EXPECT_EQ(p.s.view.player, "Ada Lovelace Kin") << "it stands there the next time";
+}
+
+TEST(View, AWindowOfALargerScreenComesUpOnThisOne) {
+    view_settings kept;
+    {
+        program p;
+        p.start();
+        p.s.window->resize(1500, 500);
+        end_session(p.s);
+        kept = load_view_settings();
+    }
+    program p;
+    p.s.view = kept;
+    p.start();
+    const QRect room = p.s.window->screen()->availableGeometry();
+    EXPECT_TRUE(room.contains(p.s.window->geometry()))
+        << p.s.window->width() << " by " << p.s.window->height() << " on " << room.width();
 }
 
 TEST(View, TheHintLineSaysWhatTheMachineTakes) {
