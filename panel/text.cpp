@@ -53,9 +53,11 @@ bool whole_pence(float amount, short_text& text) {
     const double pence = std::abs(static_cast<double>(amount)) * 100;
     if (!(pence < 100000))
         return false;
-    const auto nearest = static_cast<unsigned>(pence + 0.5);
-    if (std::abs(pence - nearest) > 0.49) // a half to the last place of a single
+    const auto below = static_cast<unsigned>(pence);
+    const double rest = pence - below;
+    if (rest > 0.49 && rest < 0.51) // a half to the last place of a single
         return false;
+    const unsigned nearest = rest < 0.5 ? below : below + 1;
     if (amount < 0 && nearest > 0)
         text.add("-");
     add_digits(text, nearest / 100);
