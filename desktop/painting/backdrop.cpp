@@ -13,7 +13,8 @@ namespace {
 
 using enum element;
 
-// Pictures that no play changes. A picture that stands behind one of them and does change may not touch it.
+// Pictures that no play changes. Where one of them touches a picture that does change it lies beneath it: the
+// squares of the ring stand on the edge of what they run round.
 struct part {
     element id;
     art to_come = art::none; // what the machine puts there as the screen comes up; none: what stands there

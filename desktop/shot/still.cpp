@@ -1,5 +1,6 @@
 #include "desktop/shot/still.h"
 
+#include "desktop/painting/backdrop.h"
 #include "desktop/painting/painting.h"
 
 #include <QPainter>
@@ -24,10 +25,13 @@ QImage painted(const game& g, screen what, int width) {
     take_in(show, g, 0);
     advance(show, g, 0);
     desktop::canvas c{painter, pictures, dots, lamps, strips, show, pixel, {}};
+    desktop::backdrop_store backdrop;
+    desktop::prepare_backdrop(backdrop, p, what, pixel);
     desktop::draw_bare_form(c, what);
+    desktop::draw_backdrop(c, backdrop, p, what);
     for (const bool pictures_first : {true, false})
         for (const element_row& r : elements_of(what))
-            if ((r.what == kind::picture) == pictures_first)
+            if ((r.what == kind::picture) == pictures_first && !desktop::in_backdrop(r.id))
                 desktop::draw_element(c, p, r.id, desktop::device_place(p, r.id, pixel, {}), false);
     return image;
 }

@@ -2,6 +2,7 @@
 // picture that a window painted at once would be, and each lamp and line must be seen, in its own place.
 #include "art/lamplooks.h"
 #include "core/upward.h"
+#include "desktop/shot/still.h"
 #include "panel/sheet.h"
 #include "script/commands.h"
 #include "script/reading.h"
@@ -182,6 +183,29 @@ art light_of(art dark) {
         if (name(static_cast<art>(a)) == wanted)
             return static_cast<art>(a);
     return art::none;
+}
+
+// The help pages' pictures are painted at once, the window's part by part as it needs them.
+TEST(Seen, TheWindowPaintsWhatAStillPictureShows) {
+    seen w;
+    for (const screen where : {screen::main, screen::feature}) {
+        if (where == screen::feature)
+            load_screen(w.s.g, where);
+        w.s.window->resize(820, 700); // as wide as the screen's picture is then
+        w.settle(300);
+        screenview& view = where == screen::main ? w.s.window->main_view() : w.s.window->board_view();
+        const QImage there = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage still = painted(w.s.g, where, view.width());
+        const element first = elements_of(where).front().id;
+        const QPoint corner = view.device_rect(first).topLeft() -
+                              device_place(w.s.g.p, first, view.width() / 800.0, {}).topLeft();
+        int unlike = 0;
+        for (int y = 2; y < still.height() - 2; ++y)
+            for (int x = 2; x < still.width() - 2; ++x)
+                unlike += there.pixel(corner + QPoint(x, y)) != still.pixel(x, y);
+        EXPECT_EQ(unlike, 0) << row(where).name;
+    }
+    unload_screen(w.s.g, screen::feature);
 }
 
 TEST(Seen, AWinGlowsAndLetsCoinsRise) {
