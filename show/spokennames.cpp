@@ -98,17 +98,17 @@ std::string hold_name(const game& g, element e, int n) {
                                                                                       : name;
 }
 
-// The marks round a flashing text are not read out.
+// The machine's lines are in capitals: what has none and no figure is a mark round a flashing text, "*" or
+// "xxx", and is not read out.
 std::string line_text(std::string_view text) {
     std::string said;
     while (!text.empty()) {
         const std::size_t blank = std::min(text.find(' '), text.size());
         const std::string_view part = text.substr(0, blank);
         text.remove_prefix(std::min(blank + 1, text.size()));
-        const bool spoken =
-            part != "xxx" && std::any_of(part.begin(), part.end(), [](char c) {
-                return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-            });
+        const bool spoken = std::any_of(part.begin(), part.end(), [](char c) {
+            return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z');
+        });
         if (spoken)
             (said += said.empty() ? "" : " ") += part;
     }

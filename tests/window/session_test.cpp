@@ -113,6 +113,10 @@ TEST(Session, SavesTheLedgersAfterEachPlayAndAnOptionAtOnce) {
     finish(p.s.saving);
     EXPECT_EQ(p.stored("game.dat"), game_text(p.s.g.m));
     EXPECT_GT(p.s.g.m.moneyin, 100);
+    QFile::remove(p.folder.filePath("game.dat"));
+    keep_ledgers(p.s);
+    finish(p.s.saving);
+    EXPECT_EQ(p.stored("game.dat"), "") << "what is saved is not saved again";
 }
 
 TEST(Session, TellsAnUnreadableFileAndLeavesIt) {

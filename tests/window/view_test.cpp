@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
@@ -21,6 +22,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QSettings>
 #include <QTest>
 
 #include <algorithm>
@@ -48,6 +50,11 @@ TEST(View, IsKeptAndADamagedPartOfItIsAsAtTheFirstStart) {
         file.close();
         EXPECT_EQ(load_view_settings().volume, volume) << stored;
     }
+    qunsetenv("HUSTLE_DATA"); // a player's own place for settings
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, p.folder.filePath("settings"));
+    save_view_settings(view);
+    EXPECT_EQ(load_view_settings().player, "ANNA");
+    EXPECT_FALSE(QDir(p.folder.filePath("settings")).isEmpty());
 }
 
 TEST(View, AsksOnceAboutFlashingAndTakesTheAnswer) {
@@ -140,6 +147,10 @@ TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
         return l->geometry() == view.widget_rect(element::displayline) &&
                l->accessibleName().toStdString() == spoken_name(p.s.g, element::displayline);
     }));
+    for (const QLabel* l : lines) {
+        EXPECT_TRUE(!l->accessibleName().isEmpty() || l->geometry() == view.widget_rect(element::displayline))
+            << "a reader would stop at nothing";
+    }
     QPushButton* const start = button(element::start);
     const QRect ring = start->geometry();
     const QImage without = view.grab(ring).toImage();
@@ -313,6 +324,40 @@ TEST(View, KeysAreTheMachinesOwn) {
         EXPECT_EQ(code(other), 0) << other;
     for (const auto with : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
         EXPECT_EQ(code(Qt::Key_C, with), 0);
+}
+
+TEST(View, TheBoardIsReadOutAsMainIs) {
+    program p;
+    p.start();
+    load_screen(p.s.g, screen::feature);
+    screenview& board = p.s.window->board_view();
+    const auto buttons =
+        std::count_if(elements_of(screen::feature).begin(), elements_of(screen::feature).end(),
+                      [](const element_row& r) { return takes_press(r.what); });
+    p.until([&] { return !board.findChildren<QPushButton*>().isEmpty(); }); // once it is drawn ahead
+    EXPECT_EQ(board.findChildren<QPushButton*>().size(), buttons);
+}
+
+TEST(View, ASideWindowHasTheScaleOfMainWhereThereIsRoom) {
+    program p;
+    p.start();
+    const QSize room = p.s.window->screen()->availableSize() * 0.9;
+    const double zoom = std::max(0.75, main_window_zoom(*p.s.window));
+    for (const screen s : {screen::reelguide, screen::wintable, screen::statistics, screen::Highscore}) {
+        load_screen(p.s.g, s);
+        settle(p.s.g);
+        refresh(p.s);
+        const screenview* const view = p.s.side[static_cast<std::size_t>(s)];
+        ASSERT_NE(view, nullptr);
+        const QSizeF wanted = QSizeF(view->panel_size()) * zoom;
+        if (wanted.width() < room.width() && wanted.height() < room.height() - 40) {
+            EXPECT_EQ(view->size(), wanted.toSize()) << row(s).name;
+        } else {
+            EXPECT_LT(view->width() - 1, room.width()) << row(s).name;
+            EXPECT_LT(view->height() - 1, room.height()) << row(s).name;
+        }
+        unload_screen(p.s.g, s);
+    }
 }
 
 TEST(View, TheFirstSizeIsTheLargestStepThatFits) {
