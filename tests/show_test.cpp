@@ -4,6 +4,7 @@
 #include "core/bank.h"
 #include "core/reels.h"
 #include "panel/sheet.h"
+#include "show/motions.h"
 #include "show/places.h"
 #include "show/spokennames.h"
 #include "tests/showgame.h"
@@ -53,6 +54,11 @@ TEST_F(Show, TheBeltRunsForwardFromWhatWasWrittenAndNeverBehind) {
         EXPECT_GE(now, furthest);
         moves += now > furthest;
         furthest = now;
+        stage later = s;
+        if (const int wait = advance_belt(later, g, g.p.now); wait > 0) {
+            advance_belt(later, g, g.p.now + wait);
+            EXPECT_GT(later.belt.columns, s.belt.columns) << "a picture was wanted for nothing";
+        }
     });
     EXPECT_GT(moves, 100); // dot by dot, not letter by letter
     ASSERT_TRUE(key(space));

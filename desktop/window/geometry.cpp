@@ -74,7 +74,7 @@ void zoom_main_window(mainwindow& window, double zoom) {
     if (window.isMaximized())
         window.showNormal();
     const QRect area = work_area(window);
-    const QSize wanted = (QSizeF(window.main_view().panel_size()) * std::clamp(zoom, smallest, 4.0)).toSize();
+    const QSize wanted = (QSizeF(window.main_view().panel_size()) * std::max(zoom, smallest)).toSize();
     window.resize((wanted + window.bars(wanted.width())).boundedTo(area.size() - frame));
     keep_on_screen(window, area);
 }

@@ -102,10 +102,20 @@ TEST(View, EntriesOfItDoAsTheySay) {
     p.start();
     const auto take = [&](const QString& text) {
         for (QAction* a : p.s.window->findChildren<QAction*>())
-            if (a->text() == text)
+            if (a->text().remove('&') == text)
                 return a->trigger();
         ADD_FAILURE() << text.toStdString();
     };
+    const auto ticked = [&](const QString& text) {
+        const auto all = p.s.window->findChildren<QAction*>();
+        return std::any_of(all.begin(), all.end(),
+                           [&](QAction* a) { return a->text().remove('&') == text && a->isChecked(); });
+    };
+    for (const QString colour : {"Blue LED", "Red LED"}) {
+        take(colour);
+        EXPECT_EQ(ticked("Blue LED"), colour == "Blue LED");
+        EXPECT_EQ(ticked("Red LED"), colour == "Red LED");
+    }
     take("50 %");
     EXPECT_EQ(p.s.window->main_view().width(), p.s.window->main_view().panel_size().width() / 2);
     p.s.window->resize(1, 1);
@@ -113,18 +123,25 @@ TEST(View, EntriesOfItDoAsTheySay) {
     take("25 %");
     EXPECT_EQ(load_view_settings().volume, 25);
     EXPECT_EQ(loudness(p.s), 25);
-    take("&Mute");
+    take("Mute");
     EXPECT_EQ(loudness(p.s), 0);
-    take("&Mute");
+    take("Mute");
     send(p.s, {input::kind::press, screen::main, element::soundoff});
     EXPECT_EQ(loudness(p.s), 0) << "the machine's own switch";
-    take("&Hints");
+    take("Hints");
     EXPECT_FALSE(p.s.view.hints);
-    take("&Reduced Flashing");
+    take("Reduced Flashing");
     EXPECT_TRUE(p.s.view.reduced_flashing);
-    take("Recor&d the Session");
+    take("Record the Session");
     EXPECT_FALSE(load_view_settings().recording);
 }
+
+struct paint_counter : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        return count += event->type() == QEvent::Paint, false;
+    }
+};
 
 TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
     program p;
@@ -158,7 +175,10 @@ TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
     EXPECT_EQ(view.grab(ring).toImage(), without) << "a mouse needs no ring";
     start->clearFocus();
     p.until([&] { return p.s.window->isActiveWindow(); });
+    paint_counter painted;
+    start->installEventFilter(&painted);
     start->setFocus(Qt::TabFocusReason);
+    p.until([&] { return painted.count > 0; });
     EXPECT_NE(view.grab(ring).toImage(), without);
     const auto credits = p.s.g.m.credits;
     QTest::keyClick(start, Qt::Key_Return);
@@ -236,6 +256,7 @@ TEST(View, TheHintLineSaysWhatTheMachineTakes) {
         EXPECT_EQ(line->height(), high);
         EXPECT_GT(high, labels[0]->font().pixelSize());
         EXPECT_GE(labels[0]->font().pixelSize(), 10);
+        EXPECT_EQ(labels[1]->font(), labels[0]->font());
     }
     EXPECT_GT(hintline::height_at(2400), hintline::height_at(800));
 }
