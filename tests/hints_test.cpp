@@ -181,6 +181,15 @@ const waiting_state states[] = {
      },
      "Space rolls the die; Tab and Enter on Cash, Feature or Shots", space,
      [](const game& g) { return is_running(g.p, timer::feature_spin_dice); }},
+    {"a light on the squares",
+     [](showgame& t) { t.open_stop(award::randomstop, timer::feature_randomstop, 500); },
+     "Space stops the light on a square", space,
+     [](const game& g) { return !is_running(g.p, timer::feature_randomstop); }},
+    {"two ladders before the first is shown",
+     [](showgame& t) { t.open_stop(award::pickaladder, timer::feature_pickaladder, 0); }, "", 0, nullptr},
+    {"two ladders", [](showgame& t) { t.open_stop(award::pickaladder, timer::feature_pickaladder, 1500); },
+     "Space takes the ladder that flashes", space,
+     [](const game& g) { return !is_running(g.p, timer::feature_pickaladder); }},
 };
 
 TEST_F(Hints, AnswerEachStateAndTheKeyTheyNameDoesIt) {

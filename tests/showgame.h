@@ -51,6 +51,15 @@ struct showgame : testing::Test, testgame {
         load_screen(g, screen::feature);
         settle(g);
     }
+    // A game on the board that waits for its stop button.
+    void open_stop(word award, timer waits, int ms) {
+        open_board("feature", 1);
+        run(2000);
+        g.m.award = award;
+        start_timer(g.p, waits);
+        enable(g.p, element::feature_stopfeature);
+        run(ms);
+    }
 };
 
 } // namespace hustle

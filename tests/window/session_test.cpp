@@ -31,6 +31,7 @@
 #include <QWindow>
 
 #include <csignal>
+#include <optional>
 #include <sstream>
 #include <thread>
 #include <utility>
@@ -368,20 +369,23 @@ TEST(Session, OpensItsFormsAboveMain) {
 TEST(Session, IsTheOnlyOneOnItsFiles) {
     const QTemporaryDir folder;
     const pid_t child = ::fork();
-    if (child == 0) { // claims the folder and is killed
+    if (child == 0) { // claims the folder and is killed as it listens
         only_one one;
-        ::_exit(claim_folder(one, folder.path()) ? ::kill(::getpid(), SIGKILL) : 1);
+        const bool mine = claim_folder(one, folder.path());
+        listen_for_calls(one, folder.path(), [](wish) {});
+        ::_exit(mine ? ::kill(::getpid(), SIGKILL) : 1);
     }
     int status = 0;
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     ASSERT_TRUE(WIFSIGNALED(status));
 
-    only_one first, second;
-    ASSERT_TRUE(claim_folder(first, folder.path())) << "the lock outlived its process";
+    std::optional<only_one> first(std::in_place);
+    only_one second;
+    ASSERT_TRUE(claim_folder(*first, folder.path())) << "the lock outlived its process";
     EXPECT_FALSE(claim_folder(second, folder.path()));
     EXPECT_FALSE(call_to_front(folder.path(), wish::to_front)) << "nobody listens yet";
     bool called = false;
-    listen_for_calls(first, folder.path(), [&](wish asked) { called = asked == wish::reduced_flashing; });
+    listen_for_calls(*first, folder.path(), [&](wish asked) { called = asked == wish::reduced_flashing; });
     bool answered = false;
     std::thread caller([&] { answered = call_to_front(folder.path(), wish::reduced_flashing); });
     while (!called)
@@ -389,6 +393,15 @@ TEST(Session, IsTheOnlyOneOnItsFiles) {
     QCoreApplication::processEvents();
     caller.join();
     EXPECT_TRUE(answered);
+    const QString socket = QFile::decodeName(first->ear.place);
+    EXPECT_TRUE(QFile::exists(socket));
+    first.reset();
+    EXPECT_FALSE(QFile::exists(socket));
+}
+
+TEST(Session, PlaysInPoundsWhereTheSystemHasNoCountry) {
+    program p;
+    EXPECT_EQ(p.s.world.currency(3.6F), "£3.60");
 }
 
 } // namespace
@@ -399,6 +412,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("SDL_AUDIODRIVER", "dummy");
     qputenv("HUSTLE_SEED", "1");
+    qputenv("LC_ALL", "C.UTF-8");
     const QApplication application(argc, argv);
     QApplication::setApplicationName("hoardhustle");
     QApplication::setQuitOnLastWindowClosed(false);
