@@ -74,6 +74,8 @@ TEST(Names, TellEveryButtonLampAndLine) {
     EXPECT_EQ(spoken_name(b.g, element::displayline), "I LIKE IT");
     set_caption(b.g.p, element::displayline, "       * REEL SKILL *");
     EXPECT_EQ(spoken_name(b.g, element::displayline), "REEL SKILL");
+    set_caption(b.g.p, element::feature_shotbox, "  9 ");
+    EXPECT_EQ(spoken_name(b.g, element::feature_shotbox), "Shots: 9");
     set_fore(b.g.p, element::numberfour, 65535);
     EXPECT_EQ(spoken_name(b.g, element::numberfour), "Trail 4: BONUS, lit");
     set_caption(b.g.p, element::statistics_text1, "   £1.50 ");

@@ -17,6 +17,7 @@ struct program {
     QTemporaryDir folder;
     session s;
     QStringList told;       // the boxes so far
+    QStringList costs;      // what a Yes in them costs
     QString button = "&OK"; // what is clicked in the next ones
     QTimer hand;            // of a player who answers every box
 
@@ -33,6 +34,7 @@ struct program {
         if (box == nullptr)
             return;
         told << box->text();
+        costs << box->informativeText();
         for (QAbstractButton* b : box->buttons())
             if (b->text() == button)
                 return b->click();

@@ -128,6 +128,11 @@ TEST(Session, TellsAnUnreadableFileAndLeavesIt) {
     ASSERT_EQ(p.told.size(), 1);
     EXPECT_TRUE(p.told[0].contains("game.dat is there but cannot be read")) << p.told[0].toStdString();
     EXPECT_FALSE(may_write(p.s.world, store::game_dat));
+    send(p.s, {input::kind::press, screen::main, element::sreelspin}); // which is kept at once
+    finish(p.s.saving);
+    const auto then = p.s.g.p.now;
+    p.until([&] { return p.s.g.p.now > then + 50; });
+    EXPECT_EQ(p.told.size(), 1) << "and nobody tries to write it";
     ask_to_leave(p.s);
     p.until_over();
     EXPECT_TRUE(p.told.at(1).contains("game.dat is not saved")) << p.told[1].toStdString();
@@ -228,6 +233,10 @@ TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {
     EXPECT_FALSE(p.s.g.p.over);
     const auto then = p.s.g.p.now;
     p.until([&] { return p.s.g.p.now > then + 100; }); // the machine goes on
+    send(p.s, {input::kind::press, screen::main, element::newgame});
+    EXPECT_EQ(p.costs.size(), 2);
+    EXPECT_TRUE(p.costs.first().contains("not paid")) << p.costs.first().toStdString();
+    EXPECT_TRUE(p.costs.last().contains("The money in the bank")) << p.costs.last().toStdString();
     p.button = "&Yes";
     p.s.window->close();
     p.until_over();
@@ -255,7 +264,7 @@ TEST(Session, OpensAWindowWithNoButtonUnderEnterUntilTabChoosesOne) {
         key(Qt::Key_Return);
         EXPECT_TRUE(is_loaded(p.s.g.p, screen::Highscore)) << "active " << active;
         key(Qt::Key_Tab);
-        key(Qt::Key_Return); // the first button leads back
+        key(active ? Qt::Key_Space : Qt::Key_Return); // the first button leads back
         EXPECT_FALSE(is_loaded(p.s.g.p, screen::Highscore)) << "active " << active;
     }
 }
