@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFontDatabase>
 #include <QPainter>
 
 #include <algorithm>
@@ -82,6 +83,9 @@ QImage stills(screen s) {
     return strip;
 }
 
+// Another system's letters run to other lengths: there the forms that bear them are not compared.
+bool has_the_letters() { return QFontDatabase::families().contains("DejaVu Sans Condensed"); }
+
 std::vector<look> all_looks() {
     std::vector<look> all;
     for (const QString& name : QDir(STATES).entryList({"*.txt"}, QDir::Files, QDir::Name))
@@ -116,6 +120,8 @@ TEST(Looks, AreThoseThatWereKept) {
     const QImage kept = QImage(LOOKS).convertToFormat(QImage::Format_RGB32);
     ASSERT_EQ(kept.size(), now.size());
     for (std::size_t i = 0; i < all.size(); ++i) {
+        if (all[i].unlike == lettering && !has_the_letters())
+            continue;
         const int top = down * static_cast<int>(i);
         int most = 0;
         QPoint where;
