@@ -375,6 +375,19 @@ TEST(Session, OpensItsFormsAboveMain) {
     EXPECT_EQ(guide->windowHandle()->transientParent(), p.s.window->windowHandle());
 }
 
+TEST(Session, ComesToTheFrontWithTheWindowThatWasThere) {
+    program p;
+    p.start();
+    p.s.window->showMinimized();
+    come_to_front(p.s);
+    EXPECT_FALSE(p.s.window->isMinimized());
+    send(p.s, {input::kind::press, screen::main, element::rguidemenu});
+    QWidget* const guide = p.s.side[static_cast<std::size_t>(screen::reelguide)];
+    guide->showMinimized();
+    come_to_front(p.s);
+    EXPECT_FALSE(guide->isMinimized());
+}
+
 TEST(Session, IsTheOnlyOneOnItsFiles) {
     const QTemporaryDir folder;
     const pid_t child = ::fork();
