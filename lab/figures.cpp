@@ -138,7 +138,8 @@ void write_look(jsontext& j, number plays, std::vector<double> values) {
 void write_way(jsontext& j, std::span<const record> machines) {
     j.open('[');
     for (std::size_t n = 0; n < look_count; ++n) {
-        if (!std::ranges::all_of(machines, [n](const record& r) { return r.counts.look_staked[n] > 0; }))
+        if (machines.empty() ||
+            !std::ranges::all_of(machines, [n](const record& r) { return r.counts.look_staked[n] > 0; }))
             break;
         j.open('{');
         write_look(j, look_at(n), each(machines, [n](const tally& t) {
@@ -159,7 +160,8 @@ void write_home(jsontext& j, std::span<const record> machines) {
         j.key("from"), j.whole(static_cast<number>(home_from[k]));
         j.key("way"), j.open('[');
         for (std::size_t n = 0; n < home_looks; ++n) {
-            if (!std::ranges::all_of(machines, [&](const record& r) { return r.counts.home_own[k][n] > 0; }))
+            if (machines.empty() ||
+                !std::ranges::all_of(machines, [&](const record& r) { return r.counts.home_own[k][n] > 0; }))
                 break;
             j.open('{');
             write_look(j, look_at(n),
@@ -193,7 +195,11 @@ tally sum_of(std::span<const record> machines) {
     return sum;
 }
 
-void write_head(jsontext& j, const terms& t, std::span<const record> machines) {
+int machines_in(const terms& t, share_of_run share) {
+    return t.machines < share.shard ? 0 : (t.machines - share.shard) / share.of + 1;
+}
+
+void write_head(jsontext& j, const terms& t, std::span<const record> machines, share_of_run part) {
     const tally sum = sum_of(machines);
     j.key("format"), j.text("hustlelab"), j.key("version"), j.whole(file_version), j.line();
     j.key("policy"), j.text(policies()[static_cast<std::size_t>(t.policy)].name), j.line();
@@ -205,7 +211,7 @@ void write_head(jsontext& j, const terms& t, std::span<const record> machines) {
                      machines, [](const tally& m) { return real(m.banked); },
                      [](const tally& m) { return real(m.staked); })),
         j.line();
-    j.key("complete"), j.truth(sum.plays == t.plays * static_cast<number>(t.machines)), j.line();
+    j.key("complete"), j.truth(sum.plays == t.plays * static_cast<number>(machines_in(t, part))), j.line();
     j.key("plays_in_all"), j.whole(sum.plays), j.line();
     j.key("terms"), j.open('{');
     j.key("seed"), j.text(std::to_string(t.seed));
@@ -245,10 +251,18 @@ void write_figures(jsontext& j, std::span<const record> machines) {
     j.close('}');
 }
 
-std::string result_text(const terms& t, std::span<const record> machines) {
+void write_share(jsontext& j, share_of_run part) {
+    if (part.of > 1)
+        j.key("shard"), j.open('['), j.whole(static_cast<number>(part.shard)),
+            j.whole(static_cast<number>(part.of)), j.close(']'), j.line();
+}
+
+std::string result_text(const terms& t, std::span<const record> machines, share_of_run part) {
     jsontext j;
     j.open('{');
-    write_head(j, t, machines);
+    write_head(j, t, machines, part);
+    j.key("machines_played"), j.whole(machines.size()), j.line();
+    write_share(j, part);
     j.key("figures"), write_figures(j, machines);
     j.close('}');
     return j.out;

@@ -21,7 +21,8 @@ public:
     bool money_in_bank() const { return g.m.bank > 0.1F; }
 
     bool on_board() const { return is_loaded(g.p, screen::feature); }
-    // A button that takes a press: on an open screen, visible and live.
+    // A button that takes a press, visible and live: the window tells it by the hand under the mouse, the
+    // keys that reach it, and mostly by its lamp.
     bool live(element e) const { return is_enabled(g.p, e) && is_visible(g.p, e); }
     bool shows(element e, art a) const { return hustle::shows(g.p, e, a); }
     art picture(element e) const { return at(g.p, e).picture; }
@@ -38,12 +39,13 @@ public:
         return shows(element::hold1, art::nudgepiclight) || shows(element::hold1, art::nudgepicdark);
     }
 
+    // Of the trail, 1 to 9.
     bool trail_lamp(int n) const { return back(g.p, nth(element::numberone, n)) == 255; }
     // Of the nudge ladder: the figure of `nudge1` to `nudge5`; 0 for anything else.
     int nudge_figure() const;
     int nudge_ladder() const; // the height that it shows, 0 to 5
 
-    // The board.
+    // The board: rungs of cash and of features 1 to 10, squares 1 to 24.
     bool cash_lit(int rung) const { return back(g.p, nth(element::feature_m1, rung)) == 0x0000FF; }
     bool feature_lit(int rung) const { return back(g.p, nth(element::feature_f1, rung)) == 0xFF8080; }
     bool square_lit(int n) const { return shows(nth(element::feature_square1, n), nth(art::boxlight1, n)); }

@@ -10,20 +10,35 @@
 
 namespace hustle::lab {
 
-std::vector<int> machines_of(const terms& t, int shard, int of) {
+namespace {
+
+void want_plain_file(const std::string& name) {
+    std::error_code none;
+    if (const auto status = std::filesystem::symlink_status(name, none);
+        std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw file_error(name + ": is there and is no plain file; nothing was written");
+}
+
+int open_fresh(const std::string& fresh) {
+    return ::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0644);
+}
+
+} // namespace
+
+std::vector<int> machines_of(const terms& t, share_of_run part) {
     std::vector<int> numbers;
-    for (int n = shard - 1; n < t.machines; n += of)
+    for (int n = part.shard - 1; n < t.machines; n += part.of)
         numbers.push_back(n);
     return numbers;
 }
 
 bool result::has(int machine) const {
-    return std::ranges::any_of(
-        machines, [&](const record& r) { return r.machine == machine && r.counts.plays == t.plays; });
+    const auto found = std::ranges::lower_bound(machines, machine, {}, &record::machine);
+    return found != machines.end() && found->machine == machine && found->counts.plays == t.plays;
 }
 
 bool result::complete() const {
-    return std::ranges::all_of(machines_of(t, shard, of), [&](int n) { return has(n); });
+    return std::ranges::all_of(machines_of(t, part), [&](int n) { return has(n); });
 }
 
 std::string read_file(const std::string& name) {
@@ -44,12 +59,9 @@ std::string read_file(const std::string& name) {
 }
 
 void write_file(const std::string& name, const std::string& text) {
-    std::error_code none;
-    if (const auto status = std::filesystem::symlink_status(name, none);
-        std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
-        throw file_error(name + ": is there and is no plain file; nothing was written");
+    want_plain_file(name);
     const std::string fresh = name + ".new";
-    const int file = ::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0644);
+    const int file = open_fresh(fresh);
     bool good = file >= 0;
     for (std::size_t done = 0; good && done < text.size();) {
         const ssize_t n = ::write(file, text.data() + done, text.size() - done);
@@ -63,6 +75,21 @@ void write_file(const std::string& name, const std::string& text) {
         return;
     std::remove(fresh.c_str());
     throw file_error(name + ": cannot be written");
+}
+
+bool is_there(const std::string& name) {
+    std::error_code none;
+    return std::filesystem::exists(std::filesystem::symlink_status(name, none));
+}
+
+void try_file(const std::string& name) {
+    want_plain_file(name);
+    const std::string fresh = name + ".new";
+    const int file = open_fresh(fresh);
+    if (file < 0)
+        throw file_error(name + ": cannot be written");
+    ::close(file);
+    std::remove(fresh.c_str());
 }
 
 std::string csv_name(const std::string& name) {

@@ -23,13 +23,26 @@ std::string policy_help() {
 void read_shard(const std::string& text, run_options& o) {
     int shard = 0, of = 0, end = 0;
     if (std::sscanf(text.c_str(), "%d/%d%n", &shard, &of, &end) != 2 ||
-        end != static_cast<int>(text.size()) || of < 1 || shard < 1 || shard > of)
+        end != static_cast<int>(text.size()) || of < 1 || of > most_machines || shard < 1 || shard > of)
         throw CLI::ValidationError("--shard", "'" + text + "' is no share like 2/8");
-    o.shard = shard;
-    o.of = of;
+    o.part = {shard, of};
 }
 
-void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& shard) {
+std::uint64_t seed_from(const std::string& text) {
+    try {
+        return read_seed(text);
+    } catch (const file_error& e) {
+        throw CLI::ValidationError("--seed", "'" + text + "': " + e.what());
+    }
+}
+
+// A file that is there is written over on request alone.
+void want_free(const std::string& name, bool replace) {
+    if (!replace && !name.empty() && is_there(name))
+        throw file_error(name + ": is there already: --replace writes it anew; nothing was done");
+}
+
+void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& shard, std::string& seed) {
     CLI::App* run = app.add_subcommand("run", "Play machines and count what they pay");
     std::vector<std::string> names;
     for (const policy_row& p : policies())
@@ -44,7 +57,7 @@ void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& sh
     run->add_option("--warmup", o.t.warmup, "Plays on each machine before these that are left out")
         ->check(CLI::Range(std::uint64_t{0}, std::uint64_t{10'000'000'000}))
         ->capture_default_str();
-    run->add_option("--seed", o.t.seed, "The seed of the whole run")->capture_default_str();
+    run->add_option("--seed", seed, "The seed of the whole run: 0 to 2^64 - 1")->capture_default_str();
     run->add_option("--threads", o.threads, "Threads; 0 for one on each core")
         ->check(CLI::Range(0, 1024))
         ->capture_default_str();
@@ -66,8 +79,19 @@ void add_run(CLI::App& app, run_options& o, std::string& policy, std::string& sh
         ->capture_default_str();
     run->add_option("--shard", shard, "Play one share of the machines: 2/8 is the second of eight");
     CLI::Option* out = run->add_option("--out", o.out, "Result as JSON; the machines as CSV stand beside it");
-    run->add_flag("--resume", o.resume, "Go on from the whole machines in the result file")->needs(out);
-    run->add_flag("--replace", o.replace, "Play anew where the result file is there already")->needs(out);
+    CLI::Option* resume =
+        run->add_flag("--resume", o.resume, "Go on from the whole machines in the result file")->needs(out);
+    run->add_flag("--replace", o.replace, "Play anew where the result file is there already")
+        ->needs(out)
+        ->excludes(resume);
+}
+
+// Figures that could not be told, to a full disk or to nobody, are no success.
+int outcome(int status) {
+    if (std::cout.good())
+        return status;
+    std::cerr << "hustlelab: the standard output cannot be written\n";
+    return status == 0 ? 1 : status;
 }
 
 } // namespace
@@ -78,18 +102,22 @@ int main(int count, char** words) {
     app.require_subcommand(1);
     app.set_version_flag("--version", std::string("hustlelab ") + HUSTLE_VERSION);
     run_options o;
-    std::string policy = "starter", shard, merged_name, page_name;
+    std::string policy = "starter", shard, seed = "1", merged_name, page_name;
+    bool replace = false;
     std::vector<std::string> shares, results;
-    add_run(app, o, policy, shard);
+    add_run(app, o, policy, shard, seed);
     CLI::App* merge = app.add_subcommand("merge", "Join the shares of a run into the bytes of one run");
     merge->add_option("FILE", shares, "The shares' result files")->required();
     merge->add_option("--out", merged_name, "The whole run")->required();
+    merge->add_flag("--replace", replace, "Write anew what is there already");
     CLI::App* report = app.add_subcommand("report", "Write a page with charts and tables");
     report->add_option("FILE", results, "Result files, shown side by side")->required();
     report->add_option("--out", page_name, "The page; standard output unless told");
+    report->add_flag("--replace", replace, "Write anew what is there already");
     try {
         app.parse(count, words);
         o.t.policy = find_policy(policy);
+        o.t.seed = seed_from(seed);
         if (!shard.empty())
             read_shard(shard, o);
     } catch (const CLI::ParseError& e) {
@@ -97,13 +125,16 @@ int main(int count, char** words) {
     }
     try {
         if (app.got_subcommand("run"))
-            return run(o);
+            return outcome(run(o));
         if (app.got_subcommand(merge)) {
+            want_free(merged_name, replace);
+            want_free(csv_name(merged_name), replace);
             const result whole = merged(shares);
             save(whole, merged_name);
-            std::cout << told(whole);
-            return 0;
+            std::cout << told(whole) << std::flush;
+            return outcome(0);
         }
+        want_free(page_name, replace);
         std::vector<result> all;
         all.reserve(results.size());
         for (const std::string& name : results)
@@ -113,7 +144,7 @@ int main(int count, char** words) {
             std::cout << page << std::flush;
         else
             write_file(page_name, page);
-        return std::cout.good() ? 0 : 1;
+        return outcome(0);
     } catch (const std::exception& e) {
         std::cerr << "hustlelab: " << e.what() << '\n';
         return 1;

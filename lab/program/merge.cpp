@@ -15,29 +15,29 @@ result merged(const std::vector<std::string>& names) {
     result whole;
     std::map<int, std::string> found; // share and its file
     for (const std::string& name : names) {
-        const result part = read_result(read_file(name), name);
+        const result share = read_result(read_file(name), name);
         if (found.empty()) {
-            whole.t = part.t;
-            whole.of = part.of;
+            whole.t = share.t;
+            whole.part.of = share.part.of;
         }
-        if (part.t != whole.t || part.of != whole.of)
+        if (share.t != whole.t || share.part.of != whole.part.of)
             throw file_error(name + ": it is of another run than " + found.begin()->second);
-        if (const auto twice = found.find(part.shard); twice != found.end())
-            throw file_error(name + ": share " + share_name(part.shard, part.of) +
+        if (const auto twice = found.find(share.part.shard); twice != found.end())
+            throw file_error(name + ": share " + share_name(share.part.shard, share.part.of) +
                              " is there twice: it is also in " + twice->second);
-        if (!part.complete())
-            throw file_error(name + ": share " + share_name(part.shard, part.of) +
+        if (!share.complete())
+            throw file_error(name + ": share " + share_name(share.part.shard, share.part.of) +
                              " was broken off: resume it first");
-        found[part.shard] = name;
-        whole.machines.insert(whole.machines.end(), part.machines.begin(), part.machines.end());
+        found[share.part.shard] = name;
+        whole.machines.insert(whole.machines.end(), share.machines.begin(), share.machines.end());
     }
     std::string missing;
-    for (int shard = 1; shard <= whole.of; ++shard)
+    for (int shard = 1; shard <= whole.part.of; ++shard)
         if (!found.contains(shard))
-            missing.append(" ").append(share_name(shard, whole.of));
+            missing.append(" ").append(share_name(shard, whole.part.of));
     if (!missing.empty())
         throw file_error("shares are missing:" + missing);
-    whole.shard = whole.of = 1;
+    whole.part = {};
     std::ranges::sort(whole.machines, {}, &record::machine);
     return whole;
 }

@@ -16,7 +16,7 @@ struct progress {
     void clear() const;
 };
 
-// Plays a second, in words: "1.25 million plays a second".
+// Seconds of the house's clock since then.
 double seconds_since(std::chrono::steady_clock::time_point);
 
 } // namespace hustle::lab

@@ -9,7 +9,7 @@ std::string page_of(const std::vector<result>& results) {
     for (const result& r : results) {
         if (data.size() > 1)
             data += ",\n";
-        data += result_text(r.t, r.machines);
+        data += result_text(r.t, r.machines, r.part);
     }
     data += "]";
     std::string page = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"

@@ -82,14 +82,6 @@ void read_record(const json& from, record& r) {
     });
 }
 
-std::uint64_t read_seed(const std::string& text) {
-    std::uint64_t seed = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seed);
-    if (error != std::errc{} || end != text.data() + text.size())
-        throw file_error("the seed is no whole number");
-    return seed;
-}
-
 terms read_terms(const json& from) {
     const json& more = from.at("terms");
     terms t;
@@ -114,7 +106,7 @@ terms read_terms(const json& from) {
 void check_machine(const result& r) {
     const int number = r.machines.back().machine;
     const bool in_order = r.machines.size() < 2 || r.machines[r.machines.size() - 2].machine < number;
-    if (number < 0 || number >= r.t.machines || number % r.of != r.shard - 1 || !in_order)
+    if (number < 0 || number >= r.t.machines || number % r.part.of != r.part.shard - 1 || !in_order)
         throw file_error("machine " + std::to_string(number) + " has no place in it");
 }
 
@@ -129,14 +121,20 @@ void check_seal(const std::string& text) {
 
 } // namespace
 
+std::uint64_t read_seed(const std::string& text) {
+    std::uint64_t seed = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seed);
+    if (error != std::errc{} || end != text.data() + text.size())
+        throw file_error("the seed is no whole number from 0 to 18446744073709551615");
+    return seed;
+}
+
 std::string file_text(const result& r) {
     jsontext j;
     j.open('{');
     j.line();
-    write_head(j, r.t, r.machines);
-    if (r.of > 1)
-        j.key("shard"), j.open('['), j.whole(static_cast<number>(r.shard)),
-            j.whole(static_cast<number>(r.of)), j.close(']'), j.line();
+    write_head(j, r.t, r.machines, r.part);
+    write_share(j, r.part);
     j.key("figures"), write_figures(j, r.machines), j.line();
     j.key("records"), j.open('['), j.line();
     for (const record& m : r.machines)
@@ -190,10 +188,10 @@ result read_result(const std::string& text, const std::string& name) {
         result r;
         r.t = read_terms(from);
         if (from.contains("shard")) {
-            r.shard = from["shard"].at(0).get<int>();
-            r.of = from["shard"].at(1).get<int>();
+            r.part.shard = from["shard"].at(0).get<int>();
+            r.part.of = from["shard"].at(1).get<int>();
         }
-        if (r.of < 1 || r.of > most_machines || r.shard < 1 || r.shard > r.of)
+        if (r.part.of < 1 || r.part.of > most_machines || r.part.shard < 1 || r.part.shard > r.part.of)
             throw file_error("it is no share of a run");
         for (const json& row : from.at("records")) {
             read_record(row, r.machines.emplace_back());

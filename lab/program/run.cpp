@@ -8,7 +8,6 @@
 #include <condition_variable>
 #include <csignal>
 #include <cstdio>
-#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <mutex>
@@ -140,29 +139,22 @@ void wait_for(work& w, const result& begun, const run_options& o, const progress
     }
 }
 
-// Better now than after a night.
-void try_place(const std::string& name) {
-    write_file(name, "");
-    std::filesystem::remove(name);
-}
-
 result earlier(const run_options& o) {
     result r;
     r.t = o.t;
-    r.shard = o.shard;
-    r.of = o.of;
-    if (o.out.empty() || !std::filesystem::exists(o.out)) {
-        if (!o.out.empty())
-            try_place(o.out);
+    r.part = o.part;
+    if (o.out.empty())
         return r;
+    for (const std::string& name : {o.out, csv_name(o.out)}) {
+        if (!o.resume && !o.replace && is_there(name))
+            throw file_error(name + ": is there already: --resume goes on with it, --replace plays anew; "
+                                    "nothing was played");
+        try_file(name); // better now than after a night
     }
-    if (!o.resume && !o.replace)
-        throw file_error(o.out + ": is there already: --resume goes on with it, --replace plays anew; "
-                                 "nothing was played");
-    if (!o.resume)
+    if (!o.resume || !is_there(o.out))
         return r;
     result found = read_result(read_file(o.out), o.out);
-    if (found.t != o.t || found.shard != o.shard || found.of != o.of)
+    if (found.t != o.t || found.part != o.part)
         throw file_error(o.out + ": it is of a run with other terms; nothing was played");
     std::erase_if(found.machines, [&](const record& m) { return !found.has(m.machine); });
     return found;
@@ -191,10 +183,10 @@ int run(const run_options& o) {
     const interrupt_guard guard;
     result r = earlier(o);
     work w(o.t);
-    for (const int n : machines_of(o.t, o.shard, o.of))
+    for (const int n : machines_of(o.t, o.part))
         if (!r.has(n))
             w.wanted.push_back(n);
-    const number wanted = o.t.plays * static_cast<number>(machines_of(o.t, o.shard, o.of).size());
+    const number wanted = o.t.plays * static_cast<number>(machines_in(o.t, o.part));
     progress bar{.wanted = wanted,
                  .before = wanted - o.t.plays * static_cast<number>(w.wanted.size()),
                  .on_terminal = isatty(STDERR_FILENO) != 0};
@@ -220,13 +212,15 @@ int run(const run_options& o) {
     r = so_far(r, w);
     if (!r.machines.empty())
         std::cout << told(r) << std::flush; // before the saving, which may fail
-    if (w.wanted.empty())
+    if (wanted == 0)
+        std::cerr << "hustlelab: no machine falls to this share\n";
+    else if (w.wanted.empty())
         std::cerr << "hustlelab: all of it was played before\n";
     else
         std::fprintf(stderr, "%.0f plays in %.1f s: %.0f a second on %zu thread%s\n",
                      static_cast<double>(w.done), seconds,
                      static_cast<double>(w.done) / std::max(seconds, 1e-9), threads, threads == 1 ? "" : "s");
-    if (!o.out.empty() && !r.machines.empty())
+    if (!o.out.empty() && (!r.machines.empty() || r.complete()))
         save(r, o.out);
     for (const stuck_machine& where : w.stuck)
         tell_stuck(o.t, where);

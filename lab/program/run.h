@@ -9,7 +9,7 @@ namespace hustle::lab {
 
 struct run_options {
     terms t;
-    int shard = 1, of = 1;
+    share_of_run part;
     int threads = 0;      // 0: one for each core
     std::string out;      // file; empty: none is written
     bool resume = false;  // go on from what the file holds

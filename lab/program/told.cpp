@@ -51,13 +51,13 @@ void tell_sources(std::ostream& out, const json& sources) {
 } // namespace
 
 std::string told(const result& r) {
-    const json all = json::parse(result_text(r.t, r.machines));
+    const json all = json::parse(result_text(r.t, r.machines, r.part));
     const json& f = all["figures"];
     std::ostringstream out;
     out << all["policy"].get<std::string>() << ": " << r.machines.size() << " machines, "
         << all["plays_in_all"].get<number>() << " plays";
-    if (r.of > 1)
-        out << " (share " << r.shard << " of " << r.of << ")";
+    if (r.part.of > 1)
+        out << " (share " << r.part.shard << " of " << r.part.of << ")";
     out << "\n  return to player     " << interval{all["return"]} << "\n  the machine's own    "
         << interval{f["own"]} << "\n  plays that pay       " << interval{f["hit_rate"]}
         << "\n  volatility           " << fixed_to{f["volatility"].get<double>(), 2}

@@ -35,8 +35,16 @@ const hustleLab = (() => {
     const seconds = (s) => s < 60 ? fixed(s, 1) + " s" : s < 3600 ? fixed(s / 60, 1) + " min" : s < 172800
         ? fixed(s / 3600, 1) + " h" : count(Math.round(s / 86400)) + " days";
 
-    // How a result is called: its policy, and what sets it apart from others of the same policy.
-    const nameOf = (r) => r.policy + (r.terms.reaction > 0 ? `, ${r.terms.reaction} ms` : "");
+    // How a result is called: its policy, and what sets it apart from the others of that policy beside it.
+    const marks = [["rung", (v) => `rung ${v}`], ["moneyin", (v) => `£${v} in`], ["moneyout", (v) => `£${v} out`],
+        ["warmup", (v) => `after ${count(v)} plays`], ["seed", (v) => `seed ${v}`]];
+    let beside = [];
+    const nameOf = (r) => {
+        const others = beside.filter((o) => o.policy === r.policy && o.terms.reaction === r.terms.reaction);
+        return [r.policy, ...r.terms.reaction > 0 ? [`${r.terms.reaction} ms`] : [],
+            ...marks.filter(([key]) => others.some((o) => o.terms[key] !== r.terms[key])).map(([key, told]) => told(r.terms[key])),
+            ...r.shard ? [`share ${r.shard[0]} of ${r.shard[1]}`] : []].join(", ");
+    };
     const colourOf = (i) => `var(--lab-${i % 6})`;
 
     // Scales.
@@ -114,7 +122,7 @@ const hustleLab = (() => {
     };
 
     const summary = (root, results) => {
-        const rows = results.map((r) => [nameOf(r), count(r.plays_in_all), count(r.machines), interval(r.return),
+        const rows = results.map((r) => [nameOf(r), count(r.plays_in_all), count(r.machines_played), interval(r.return),
             interval(r.figures.own), interval(r.figures.hit_rate), fixed(r.figures.volatility), count(r.figures.longest_dry_run),
             fixed(r.figures.seconds_per_play) + " s", seconds(r.seconds)]);
         const made = table("Percentages with their 95 % intervals from the spread between machines",
@@ -176,7 +184,7 @@ const hustleLab = (() => {
             bins.forEach((n, k) => {
                 const limit = results[0].figures.wins[n].upto;
                 if (k % every === 0)
-                    p.root.append(label(p.left + (k + 0.5) * step, p.bottom + 18, limit === null ? "more" : "£" + limit,
+                    p.root.append(label(p.left + (k + 0.5) * step, p.bottom + 18, limit === null ? "more" : "£" + (limit % 1 ? limit.toFixed(2) : limit),
                         {"text-anchor": "middle"}));
             });
             p.root.append(svg("line", {class: "base", x1: p.left, x2: p.right, y1: p.bottom, y2: p.bottom}),
@@ -203,6 +211,7 @@ const hustleLab = (() => {
             xAxis(p, x, niceTicks(0, most, width < 500 ? 4 : 8), (t) => t + " %", "of the stakes");
             results.forEach((r, i) => {
                 let at = 0;
+                const paleFrom = 0.75; // an ink for the paper is read below it
                 p.root.append(label(p.left, p.top + i * row + 14, `${nameOf(r)}: ${percent(r.return.mean)}`, {class: "rowname"}));
                 kinds.forEach(([kind, keys], k) => keys.forEach((key, n) => {
                     const s = r.figures.sources.find((f) => f.key === key);
@@ -210,11 +219,12 @@ const hustleLab = (() => {
                         return;
                     const left = x(at), w = x(at + s.percent) - left;
                     at += s.percent;
+                    const full = 1 - 0.55 * n / Math.max(keys.length - 1, 1);
                     p.root.append(svg("rect", {class: "bar", x: left, width: Math.max(w - 0.7, 0.5), y: p.top + i * row + 20,
-                        height: 26, fill: colourOf(k), "fill-opacity": 1 - 0.55 * n / Math.max(keys.length - 1, 1),
+                        height: 26, fill: colourOf(k), "fill-opacity": full,
                         "data-tip": `${nameOf(r)}: ${s.title} ${percent(s.percent)} of the stakes, one play in ${fixed(s.plays_each, 0)}`}));
                     if (w > s.title.length * 6.2 + 8)
-                        p.root.append(label(left + 5, p.top + i * row + 37, s.title, {class: "inbar"}));
+                        p.root.append(label(left + 5, p.top + i * row + 37, s.title, {class: full < paleFrom ? "inbar pale" : "inbar"}));
                 }));
             });
             return p.root;
@@ -340,7 +350,7 @@ const hustleLab = (() => {
     const terms = (root, results) => root.append(html("section", {class: "terms"}, html("h2", {}, "The runs"), html("ul", {},
         ...results.map((r) => html("li", {}, `${nameOf(r)}: hustlelab run --policy ${r.policy} --machines ${r.machines} ` +
             `--plays ${r.plays} --seed ${r.terms.seed} --warmup ${r.terms.warmup} --reaction ${r.terms.reaction} --rung ${r.terms.rung} ` +
-            `--moneyin ${r.terms.moneyin} --moneyout ${r.terms.moneyout}`)))));
+            `--moneyin ${r.terms.moneyin} --moneyout ${r.terms.moneyout}${r.shard ? ` --shard ${r.shard.join("/")}` : ""}`)))));
 
     // One small note that follows the pointer.
     const hover = (root) => {
@@ -384,6 +394,7 @@ const hustleLab = (() => {
         const open = [...root.querySelectorAll("details")].map((d) => d.open);
         root.style.minHeight = high + "px"; // what stands below keeps its place meanwhile
         charts.length = 0;
+        beside = results;
         root.replaceChildren(html("h1", {}, "What the machine pays"));
         summary(root, results);
         for (const part of [returnOverPlays, sourcesBar, winsHistogram, windows, wayHome, bands, features, terms])

@@ -31,6 +31,15 @@ fi
 cmp one.json merged.json
 cmp one.csv merged.csv
 
+for n in 1 2 3 4; do # more shares than machines: the last one is empty
+    "$lab" run --machines 3 --plays 500 --shard $n/4 --out few$n.json >/dev/null 2>&1
+done
+grep -q '"complete":false' few?.json && fail "a share that was played whole is told as broken off"
+"$lab" merge few?.json --out few.json >/dev/null
+"$lab" run --machines 3 --plays 500 --out whole.json >/dev/null 2>&1
+cmp few.json whole.json
+"$lab" report few1.json | grep -q '"machines_played":1,' || fail "a share tells of machines that it has not"
+
 refused 'missing: 2/3' "$lab" merge 1.json 3.json --out x.json
 refused 'share 1/3 is there twice' "$lab" merge 1.json 2.json 1.json --out x.json
 "$lab" "${run[@]}" --seed 12 --shard 2/3 --out other.json >/dev/null 2>&1
@@ -52,6 +61,16 @@ for place in folder pipe; do # a device too: whoever is root would replace it
     refused 'no plain file' "$lab" report $place
 done
 refused 'cannot be written' "$lab" "${run[@]}" --out nowhere/one.json
+cp one.json kept.json
+cp one.csv kept.csv
+refused 'kept.json: is there already' "$lab" merge 1.json 2.json 3.json --out kept.json
+refused '2.json: is there already' "$lab" report 1.json --out 2.json
+rm kept.json
+refused 'kept.csv: is there already' "$lab" "${run[@]}" --out kept.json
+mkdir folder.csv
+refused 'folder.csv: is there and is no plain file' "$lab" "${run[@]}" --replace --out folder.json
+[ ! -e folder.json ] || fail "it was played before the place of its table was looked at"
+for seed in -1 18446744073709551616 010x ''; do refused 'no whole number' "$lab" run --seed "$seed"; done
 refused 'no share' "$lab" run --shard 4/3
 refused 'policy' "$lab" run --policy nobody
 refused 'plays' "$lab" run --plays 0

@@ -40,7 +40,7 @@ export function makePays(host, loadModule) {
   const many = choice("machines", machines, 16);
   const each = choice("plays", plays, 100000);
   const seed = part("seed", make("input", { type: "text", inputMode: "numeric", value: "1", autocomplete: "off",
-    maxLength: 20, pattern: "[0-9]+" }));
+    required: true, maxLength: 19, pattern: "[0-9]+" }));
   const beside = part("beside", make("input", { type: "checkbox" }));
   const go = part("go", make("button", { type: "submit", textContent: "Play" }));
   const bar = make("progress", { max: 1, value: 0 });
