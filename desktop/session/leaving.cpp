@@ -77,6 +77,8 @@ void watch_for_the_end(session& s) {
 }
 
 void leave(session& s) {
+    if (s.watched != nullptr) // nothing of it is kept, and its machine may be over
+        return QCoreApplication::exit(0);
     s.leaving = true;
     if (s.held > 0 || QApplication::activeModalWidget() != nullptr) {
         refuse_boxes();

@@ -4,6 +4,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -22,7 +23,10 @@ QString ear_name(const QString& folder) {
 } // namespace
 
 bool claim_folder(only_one& o, const QString& folder) {
-    o.lock = std::make_unique<QLockFile>(folder + "/hoardhustle.lock");
+    const QString place = folder + "/hoardhustle.lock";
+    if (QFileInfo::exists(place) && !QFileInfo(place).isFile())
+        return true; // a pipe would never open
+    o.lock = std::make_unique<QLockFile>(place);
     o.lock->setStaleLockTime(0); // never by its age: only with its process
     return o.lock->tryLock(0) || o.lock->error() != QLockFile::LockFailedError;
 }

@@ -92,6 +92,7 @@ bool qtworld::box(const message& m) {
         return !m.yes_or_no;
     }
     hold_machine hold(*s);
+    record_box(s->record);
     QMessageBox box(box_parent());
     dress(box, text_of(m.title));
     box.setText(text_of(m.text));

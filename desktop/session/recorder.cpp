@@ -6,6 +6,7 @@
 #include "script/lexer.h"
 
 #include <cstdio>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,15 +45,23 @@ void tell_chances(recorder& r) {
 
 std::string full(element e) { return std::string(row(row(e).where).name) + "." + std::string(row(e).name); }
 
-void tell_input(recorder& r, const input& in) {
-    const std::string_view where = row(in.where).name;
+std::string line_of(const input& in) {
+    const std::string where(row(in.where).name);
     switch (in.what) {
-    case input::kind::press: return tell(r, "press", full(in.on));
-    case input::kind::key: return tell(r, "key", std::to_string(in.code), where);
-    case input::kind::type: return tell(r, "type", full(in.on), script::quote(in.text));
-    case input::kind::close: return tell(r, "close", where);
-    case input::kind::show: return tell(r, "focus", where);
+    case input::kind::press: return "press " + full(in.on) + "\n";
+    case input::kind::key: return "key " + std::to_string(in.code) + " " + where + "\n";
+    case input::kind::type: return "type " + full(in.on) + " " + script::quote(in.text) + "\n";
+    case input::kind::close: return "close " + where + "\n";
+    case input::kind::show: return "focus " + where + "\n";
     }
+    return {};
+}
+
+void record_time(recorder& r, const game& g) {
+    tell_chances(r);
+    if (r.until > r.since)
+        tell(r, "run", std::to_string(r.until - r.since));
+    r.since = r.until = g.p.now;
 }
 
 bool write_out(recorder& r) {
@@ -111,21 +120,28 @@ void record_boot(recorder& r, const game& g) {
 
 void record_ticks(recorder& r, std::int64_t until) { r.until = until; }
 
-void record_time(recorder& r, const game& g) {
+void record_begun(recorder& r, const game& g, const input& in) {
+    if (r.file < 0 || !r.stands)
+        return;
+    record_time(r, g);
+    r.asked = line_of(in);
+}
+
+void record_input(recorder& r, const game& g) {
     if (r.file < 0 || !r.stands)
         return;
     tell_chances(r);
-    if (r.until > r.since)
-        tell(r, "run", std::to_string(r.until - r.since));
+    r.text += std::exchange(r.asked, {});
     r.since = r.until = g.p.now;
 }
 
-void record_input(recorder& r, const game& g, const input& in) {
+void record_box(recorder& r) {
     if (r.file < 0 || !r.stands)
         return;
-    tell_chances(r);
-    tell_input(r, in);
-    r.since = r.until = g.p.now;
+    if (!r.asked.empty())
+        r.text += "# under way: " + r.asked;
+    if (!write_out(r))
+        end_recording(r);
 }
 
 void flush_recording(recorder& r, const game& g) {

@@ -23,6 +23,7 @@ struct recorder {
     std::size_t written = 0;
     std::string draws, answers; // of the event that runs
     int drawn = 0;              // on the line that `draws` ends with
+    std::string asked;          // the input that runs, as a line; empty in a tick
     std::int64_t since = 0;     // ms on the machine's clock, up to which all is told
     std::int64_t until = 0;     // ticks have been delivered up to here
     bool stands = false;        // main stands: the script's boot is over
@@ -39,8 +40,11 @@ void record_boot(recorder&, const game&);
 // Ticks are about to be delivered up to a time.
 void record_ticks(recorder&, std::int64_t until);
 // Round an input: before it is applied, and after.
-void record_time(recorder&, const game&);
-void record_input(recorder&, const game&, const input&);
+void record_begun(recorder&, const game&, const input&);
+void record_input(recorder&, const game&);
+// A box opens in an event, and may stand for long: what was before the event goes to the file, and the input
+// that led to the box as a remark.
+void record_box(recorder&);
 // What is new goes to the file, with the hash. Only between two events.
 void flush_recording(recorder&, const game&);
 void end_recording(recorder&);

@@ -154,9 +154,13 @@ void end_session(session& s) {
 }
 
 void feed(session& s, const input& in) {
-    record_time(s.record, s.g);
-    apply(s.g, in);
-    record_input(s.record, s.g, in);
+    std::string text(in.text);
+    std::erase_if(text, [](char c) { return (c >= 0 && c < ' ') || c == 127; }); // no script takes these
+    input clean = in;
+    clean.text = text;
+    record_begun(s.record, s.g, clean);
+    apply(s.g, clean);
+    record_input(s.record, s.g);
 }
 
 void send(session& s, const input& in) {

@@ -104,6 +104,7 @@ void add_bar(session& s, watching& w) {
         step_watched(w);
     });
     w.told = new QLabel(bar);
+    w.told->setTextFormat(Qt::PlainText); // a message shows lines of a stranger's script
     bar->addWidget(w.told);
     s.window->addToolBar(Qt::BottomToolBarArea, bar);
 }

@@ -21,6 +21,7 @@ constexpr const char* box_style =
 
 void dress(QMessageBox& box, const QString& title) {
     box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText); // a folder may be called anything
     box.setStyleSheet(box_style);
 }
 

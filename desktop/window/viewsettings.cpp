@@ -1,6 +1,7 @@
 #include "desktop/window/viewsettings.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
@@ -13,11 +14,12 @@ namespace {
 // where to keep things leaves nothing behind elsewhere.
 template <class Act> void with_settings(const Act& act) {
     const QString folder = qEnvironmentVariable("HUSTLE_DATA");
+    const QString own = QDir(folder).filePath("view.ini");
     if (folder.isEmpty()) {
         QSettings settings("hoardhustle", "hoardhustle");
         act(settings);
-    } else {
-        QSettings settings(QDir(folder).filePath("view.ini"), QSettings::IniFormat);
+    } else if (!QFileInfo::exists(own) || QFileInfo(own).isFile()) { // a pipe would never open
+        QSettings settings(own, QSettings::IniFormat);
         act(settings);
     }
 }

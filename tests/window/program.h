@@ -18,6 +18,7 @@ struct program {
     session s;
     QStringList told;       // the boxes so far
     QStringList costs;      // what a Yes in them costs
+    std::string recorded;   // the session's file while the last one stood
     QString button = "&OK"; // what is clicked in the next ones
     QTimer hand;            // of a player who answers every box
 
@@ -35,6 +36,7 @@ struct program {
             return;
         told << box->text();
         costs << box->informativeText();
+        recorded = stored("session.txt");
         for (QAbstractButton* b : box->buttons())
             if (b->text() == button)
                 return b->click();

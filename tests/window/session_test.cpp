@@ -36,6 +36,7 @@
 #include <thread>
 #include <utility>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -291,6 +292,9 @@ TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
     const script::names shown(p.s.g);
     EXPECT_EQ(w.printed.str(), "hash = " + script::hash_text(shown) + "\n");
     EXPECT_EQ(p.stored("game.dat"), "");
+    p.s.g.p.over = true; // as a script leaves it that closes main
+    QTimer::singleShot(0, &p.s.wake, [&] { leave(p.s); });
+    EXPECT_EQ(QApplication::exec(), 0);
 }
 
 // Draws, boxes and what they were answered, keys and letters among them.
@@ -317,6 +321,7 @@ TEST(Session, IsWrittenDownSoThatItCanBeHadAgain) {
     go_on(100);
     end_session(p.s);
     EXPECT_GE(p.told.size(), 4);
+    EXPECT_TRUE(p.recorded.ends_with("# under way: press main.newgame\n")) << "a box may stand for long";
     const std::string text = p.stored("session.txt");
     std::ostringstream printed, wrong;
     EXPECT_EQ(script::run_script(text, "session", printed, wrong), 0) << wrong.str();
@@ -415,6 +420,9 @@ TEST(Session, IsTheOnlyOneOnItsFiles) {
     QCoreApplication::processEvents();
     caller.join();
     EXPECT_TRUE(answered);
+    const QTemporaryDir other;
+    ASSERT_EQ(::mkfifo(other.filePath("hoardhustle.lock").toUtf8().constData(), 0600), 0);
+    EXPECT_TRUE(claim_folder(second, other.path())) << "and did not wait for a writer";
     const QString socket = QFile::decodeName(first->ear.place);
     EXPECT_TRUE(QFile::exists(socket));
     first.reset();

@@ -27,6 +27,8 @@
 
 #include <algorithm>
 
+#include <sys/stat.h>
+
 namespace hustle::desktop {
 
 namespace {
@@ -50,6 +52,10 @@ TEST(View, IsKeptAndADamagedPartOfItIsAsAtTheFirstStart) {
         file.close();
         EXPECT_EQ(load_view_settings().volume, volume) << stored;
     }
+    ASSERT_TRUE(QFile::remove(p.folder.filePath("view.ini")));
+    ASSERT_EQ(::mkfifo(p.folder.filePath("view.ini").toUtf8().constData(), 0600), 0);
+    save_view_settings(view);
+    EXPECT_EQ(load_view_settings().player, "") << "nothing waits for a writer";
     qunsetenv("HUSTLE_DATA"); // a player's own place for settings
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, p.folder.filePath("settings"));
     save_view_settings(view);
@@ -213,6 +219,8 @@ TEST(View, TheNameFormTakesLettersAndWarnsOfThoseThatAreNotSeen) {
     EXPECT_LT(warning->font().pixelSize(), box->font().pixelSize());
     EXPECT_LT(box->font().pixelSize(), box->height());
     EXPECT_EQ(p.s.view.player, "Ada Lovelace Kin") << "it stands there the next time";
+    send(p.s, {input::kind::type, screen::Entername, element::Entername_Text1, 0, "A\x1b\nda\x7f"});
+    EXPECT_EQ(caption(p.s.g.p, element::Entername_Text1), "Ada") << "what no script can tell again";
 }
 
 TEST(View, AWindowOfALargerScreenComesUpOnThisOne) {
