@@ -3,36 +3,22 @@
 #include "core/play.h"
 #include "core/upward.h"
 #include "desktop/platform/sound.h"
-#include "desktop/platform/stablefile.h"
 #include "desktop/session/leaving.h"
 #include "desktop/session/onlyone.h"
-#include "desktop/session/session.h"
-#include "desktop/session/watch.h"
-#include "desktop/window/geometry.h"
-#include "desktop/window/mainwindow.h"
 #include "screens/events.h"
-#include "script/commands.h"
-#include "script/dump.h"
 #include "tests/window/program.h"
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QSessionManager>
 #include <QTemporaryDir>
-#include <QWindow>
 
 #include <csignal>
 #include <optional>
-#include <sstream>
 #include <thread>
 #include <utility>
 
@@ -244,155 +230,6 @@ TEST(Session, AsksBeforeAGameOnTheBoardIsLost) {
     EXPECT_NE(p.stored("game.dat"), "");
 }
 
-TEST(Session, OpensAWindowWithNoButtonUnderEnterUntilTabChoosesOne) {
-    for (const bool active : {false, true}) { // a busy desktop lets it wait for the keys
-        program p;
-        p.start();
-        load_screen(p.s.g, screen::Highscore);
-        settle(p.s.g);
-        refresh(p.s);
-        QWidget* const table = p.s.side[static_cast<std::size_t>(screen::Highscore)];
-        ASSERT_NE(table, nullptr);
-        if (active)
-            p.until([&] { return table->isActiveWindow(); });
-        const auto key = [&](int code) {
-            QWidget* const focus = table->focusWidget() != nullptr ? table->focusWidget() : table;
-            QKeyEvent down(QEvent::KeyPress, code, Qt::NoModifier),
-                up(QEvent::KeyRelease, code, Qt::NoModifier);
-            QApplication::sendEvent(focus, &down);
-            QApplication::sendEvent(focus, &up);
-        };
-        key(Qt::Key_Return);
-        EXPECT_TRUE(is_loaded(p.s.g.p, screen::Highscore)) << "active " << active;
-        key(Qt::Key_Tab);
-        key(active ? Qt::Key_Space : Qt::Key_Return); // the first button leads back
-        EXPECT_FALSE(is_loaded(p.s.g.p, screen::Highscore)) << "active " << active;
-    }
-}
-
-TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
-    program p;
-    p.s.world.saving = false;
-    open_session(p.s);
-    watching w;
-    w.text = "seed 1\npress main.start\nrun 3000\nhash\n";
-    w.name = "script";
-    w.speed = 0;
-    start_watching(p.s, w);
-    p.until([&] { return p.s.g.p.now > 0; });
-    const auto first = p.s.g.p.now;
-    step_watched(w);
-    p.until([&] { return p.s.g.p.now > first; });
-    EXPECT_LT(p.s.g.p.now, first + 1000) << "one step went far";
-    send(p.s, {input::kind::close, screen::main});
-    EXPECT_FALSE(p.s.g.p.over) << "the player plays a script that is watched";
-    w.speed = 20;
-    p.until([&] { return w.told != nullptr && w.told->text().contains("has ended"); }); // and is shown
-    stop_watching(w);
-    const script::names shown(p.s.g);
-    EXPECT_EQ(w.printed.str(), "hash = " + script::hash_text(shown) + "\n");
-    EXPECT_EQ(p.stored("game.dat"), "");
-    p.s.g.p.over = true; // as a script leaves it that closes main
-    QTimer::singleShot(0, &p.s.wake, [&] { leave(p.s); });
-    EXPECT_EQ(QApplication::exec(), 0);
-}
-
-// Draws, boxes and what they were answered, keys and letters among them.
-TEST(Session, IsWrittenDownSoThatItCanBeHadAgain) {
-    program p;
-    p.start();
-    const auto go_on = [&](std::int64_t ms) {
-        const auto then = p.s.g.p.now;
-        p.until([&] { return p.s.g.p.now > then + ms; });
-    };
-    const auto press = [&](element e) { send(p.s, {input::kind::press, screen::main, e}); };
-    for (const char* const answer : {"&No", "&Yes"}) {
-        press(element::start);
-        go_on(1200);
-        press(element::transfer); // nothing in the bank: a box
-        send(p.s, {input::kind::key, screen::main, element::total, 32});
-        p.button = answer;
-        press(element::newgame);
-        p.button = "&OK";
-        go_on(300);
-    }
-    press(element::rguidemenu);
-    send(p.s, {input::kind::close, screen::reelguide});
-    go_on(100);
-    end_session(p.s);
-    EXPECT_GE(p.told.size(), 4);
-    EXPECT_TRUE(p.recorded.ends_with("# under way: press main.newgame\n")) << "a box may stand for long";
-    const std::string text = p.stored("session.txt");
-    std::ostringstream printed, wrong;
-    EXPECT_EQ(script::run_script(text, "session", printed, wrong), 0) << wrong.str();
-    std::string wanted;
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);)
-        if (line.starts_with("hash # "))
-            wanted += "hash = " + line.substr(7) + "\n";
-    EXPECT_EQ(printed.str(), wanted) << text;
-    EXPECT_NE(wanted, "");
-}
-
-TEST(Session, ComesBackWithTheSizeItHasOutsideFullScreen) {
-    const QSize wanted(700, 600);
-    view_settings kept;
-    kept.flashing_asked = true;
-    const auto leave = [&](program& p) {
-        end_session(p.s);
-        kept = load_view_settings();
-    };
-    {
-        program p;
-        p.start();
-        p.s.window->resize(wanted);
-        p.s.window->findChild<QAction*>("full_screen")->setChecked(true);
-        EXPECT_TRUE(p.s.window->isFullScreen());
-        EXPECT_TRUE(p.s.window->menuBar()->isVisible()) << "Game, New must be in reach";
-        leave(p);
-    }
-    {
-        program p;
-        p.s.view = kept;
-        p.start();
-        EXPECT_TRUE(p.s.window->isFullScreen());
-        zoom_main_window(*p.s.window, 0.75); // leaves it
-        EXPECT_FALSE(p.s.view.full_screen);
-        EXPECT_EQ(p.s.window->main_view().width(), 600);
-        p.s.window->resize(wanted);
-        leave(p);
-    }
-    program p;
-    p.s.view = kept;
-    p.start();
-    EXPECT_FALSE(p.s.window->isFullScreen());
-    EXPECT_EQ(p.s.window->size(), wanted);
-}
-
-// The window manager learns whose a form is from a dialog alone: any other can be lost behind main.
-TEST(Session, OpensItsFormsAboveMain) {
-    program p;
-    p.start();
-    send(p.s, {input::kind::press, screen::main, element::rguidemenu});
-    const QWidget* const guide = p.s.side[static_cast<std::size_t>(screen::reelguide)];
-    ASSERT_NE(guide, nullptr);
-    EXPECT_EQ(guide->windowType(), Qt::Dialog);
-    EXPECT_EQ(guide->windowHandle()->transientParent(), p.s.window->windowHandle());
-}
-
-TEST(Session, ComesToTheFrontWithTheWindowThatWasThere) {
-    program p;
-    p.start();
-    p.s.window->showMinimized();
-    come_to_front(p.s);
-    EXPECT_FALSE(p.s.window->isMinimized());
-    send(p.s, {input::kind::press, screen::main, element::rguidemenu});
-    QWidget* const guide = p.s.side[static_cast<std::size_t>(screen::reelguide)];
-    guide->showMinimized();
-    come_to_front(p.s);
-    EXPECT_FALSE(guide->isMinimized());
-}
-
 TEST(Session, IsTheOnlyOneOnItsFiles) {
     const QTemporaryDir folder;
     const pid_t child = ::fork();
@@ -429,23 +266,6 @@ TEST(Session, IsTheOnlyOneOnItsFiles) {
     EXPECT_FALSE(QFile::exists(socket));
 }
 
-TEST(Session, PlaysInPoundsWhereTheSystemHasNoCountry) {
-    program p;
-    EXPECT_EQ(p.s.world.currency(3.6F), "£3.60");
-}
-
 } // namespace
 
 } // namespace hustle::desktop
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("SDL_AUDIODRIVER", "dummy");
-    qputenv("HUSTLE_SEED", "1");
-    qputenv("LC_ALL", "C.UTF-8");
-    const QApplication application(argc, argv);
-    QApplication::setApplicationName("hoardhustle");
-    QApplication::setQuitOnLastWindowClosed(false);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -1,14 +1,9 @@
-// What a player does to the window itself: keys, clicks, sizes, the View menu and what is kept of it.
+// What a player does to the window itself: keys, clicks, the View menu and what is kept of it.
 #include "core/upward.h"
-#include "desktop/window/geometry.h"
-#include "desktop/window/hintline.h"
 #include "desktop/window/keys.h"
 #include "desktop/window/viewmenu.h"
 #include "panel/sheet.h"
-#include "screens/events.h"
-#include "show/hints.h"
 #include "show/places.h"
-#include "show/spokennames.h"
 #include "tests/window/program.h"
 
 #include <gtest/gtest.h>
@@ -16,12 +11,8 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
 #include <QMouseEvent>
-#include <QPushButton>
-#include <QScreen>
 #include <QSettings>
 #include <QTest>
 
@@ -142,133 +133,6 @@ TEST(View, EntriesOfItDoAsTheySay) {
     EXPECT_FALSE(load_view_settings().recording);
 }
 
-struct paint_counter : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override {
-        return count += event->type() == QEvent::Paint, false;
-    }
-};
-
-TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
-    program p;
-    p.start();
-    screenview& view = p.s.window->main_view();
-    const auto button = [&](element e) -> QPushButton* {
-        const QString name = QString::fromStdString(spoken_name(p.s.g, e));
-        for (QPushButton* b : view.findChildren<QPushButton*>())
-            if (b->accessibleName() == name && b->geometry() == view.widget_rect(e))
-                return b;
-        return nullptr;
-    };
-    p.until([&] { return button(element::start) != nullptr; }); // once the pictures are drawn ahead
-    for (const element_row& r : elements_of(screen::main))
-        if (takes_press(r.what) && r.what != kind::entry) {
-            EXPECT_NE(button(r.id), nullptr) << r.name;
-        }
-    const auto lines = view.findChildren<QLabel*>();
-    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&](const QLabel* l) {
-        return l->geometry() == view.widget_rect(element::displayline) &&
-               l->accessibleName().toStdString() == spoken_name(p.s.g, element::displayline);
-    }));
-    for (const QLabel* l : lines) {
-        EXPECT_TRUE(!l->accessibleName().isEmpty() || l->geometry() == view.widget_rect(element::displayline))
-            << "a reader would stop at nothing";
-    }
-    QPushButton* const start = button(element::start);
-    const QRect ring = start->geometry();
-    const QImage without = view.grab(ring).toImage();
-    start->setFocus(Qt::MouseFocusReason);
-    EXPECT_EQ(view.grab(ring).toImage(), without) << "a mouse needs no ring";
-    start->clearFocus();
-    p.until([&] { return p.s.window->isActiveWindow(); });
-    paint_counter painted;
-    start->installEventFilter(&painted);
-    start->setFocus(Qt::TabFocusReason);
-    p.until([&] { return painted.count > 0; });
-    EXPECT_NE(view.grab(ring).toImage(), without);
-    const auto credits = p.s.g.m.credits;
-    QTest::keyClick(start, Qt::Key_Return);
-    EXPECT_EQ(p.s.g.m.credits, credits - 1);
-    EXPECT_FALSE(start->isEnabled()) << "the reels turn";
-    p.until([&] { return is_enabled(p.s.g.p, element::start); });
-    EXPECT_TRUE(start->isEnabled());
-    EXPECT_TRUE(start->hasFocus()) << "it comes back";
-}
-
-TEST(View, TheNameFormTakesLettersAndWarnsOfThoseThatAreNotSeen) {
-    program p;
-    p.start();
-    load_screen(p.s.g, screen::Entername);
-    refresh(p.s);
-    QWidget* const form = p.s.side[static_cast<std::size_t>(screen::Entername)];
-    ASSERT_NE(form, nullptr);
-    auto* const box = form->findChild<QLineEdit*>();
-    ASSERT_NE(box, nullptr);
-    const QLabel* warning = nullptr;
-    for (const QLabel* label : form->findChildren<QLabel*>())
-        if (label->text().contains("fifteen"))
-            warning = label;
-    ASSERT_NE(warning, nullptr);
-    box->clear();
-    QTest::keyClicks(box, "Ada Lovelace Ki"); // fifteen
-    EXPECT_EQ(caption(p.s.g.p, element::Entername_Text1), "Ada Lovelace Ki");
-    EXPECT_FALSE(warning->isVisible());
-    QTest::keyClicks(box, "n");
-    EXPECT_TRUE(warning->isVisible());
-    EXPECT_GT(warning->geometry().top(), box->geometry().bottom());
-    EXPECT_LT(warning->font().pixelSize(), box->font().pixelSize());
-    EXPECT_LT(box->font().pixelSize(), box->height());
-    EXPECT_EQ(p.s.view.player, "Ada Lovelace Kin") << "it stands there the next time";
-    send(p.s, {input::kind::type, screen::Entername, element::Entername_Text1, 0, "A\x1b\nda\x7f"});
-    EXPECT_EQ(caption(p.s.g.p, element::Entername_Text1), "Ada") << "what no script can tell again";
-}
-
-TEST(View, AWindowOfALargerScreenComesUpOnThisOne) {
-    view_settings kept;
-    {
-        program p;
-        p.start();
-        p.s.window->resize(1500, 500);
-        end_session(p.s);
-        kept = load_view_settings();
-    }
-    program p;
-    p.s.view = kept;
-    p.start();
-    const QRect room = p.s.window->screen()->availableGeometry();
-    EXPECT_TRUE(room.contains(p.s.window->geometry()))
-        << p.s.window->width() << " by " << p.s.window->height() << " on " << room.width();
-}
-
-TEST(View, TheHintLineSaysWhatTheMachineTakes) {
-    program p;
-    p.start();
-    hintline* line = nullptr;
-    for (QWidget* w : p.s.window->findChildren<QWidget*>())
-        if (auto* const found = dynamic_cast<hintline*>(w))
-            line = found;
-    ASSERT_NE(line, nullptr);
-    const QList<QLabel*> labels = line->findChildren<QLabel*>();
-    ASSERT_EQ(labels.size(), 2);
-    refresh(p.s); // else it is as the last tick left it
-    EXPECT_EQ(labels[0]->text().toStdString(), hint(p.s.g));
-    EXPECT_EQ(labels[1]->text().toStdString(), bank_label(p.s.g) + "   " + credits_label(p.s.g));
-    send(p.s, {input::kind::press, screen::main, element::start});
-    p.until([&] { return p.s.g.p.now > 2000; });
-    refresh(p.s);
-    EXPECT_EQ(labels[0]->text().toStdString(), hint(p.s.g));
-    EXPECT_EQ(labels[1]->text().toStdString(), bank_label(p.s.g) + "   " + credits_label(p.s.g));
-    for (const int width : {320, 800, 2400}) {
-        const int high = hintline::height_at(width);
-        line->resize(width, high);
-        EXPECT_EQ(line->height(), high);
-        EXPECT_GT(high, labels[0]->font().pixelSize());
-        EXPECT_GE(labels[0]->font().pixelSize(), 10);
-        EXPECT_EQ(labels[1]->font(), labels[0]->font());
-    }
-    EXPECT_GT(hintline::height_at(2400), hintline::height_at(800));
-}
-
 // From the place that it has on the panel, at whatever size and however many pixels to a point.
 TEST(View, AButtonLiesWhereItIsSeen) {
     program p;
@@ -353,56 +217,6 @@ TEST(View, KeysAreTheMachinesOwn) {
         EXPECT_EQ(code(other), 0) << other;
     for (const auto with : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
         EXPECT_EQ(code(Qt::Key_C, with), 0);
-}
-
-TEST(View, TheBoardIsReadOutAsMainIs) {
-    program p;
-    p.start();
-    load_screen(p.s.g, screen::feature);
-    screenview& board = p.s.window->board_view();
-    const auto buttons =
-        std::count_if(elements_of(screen::feature).begin(), elements_of(screen::feature).end(),
-                      [](const element_row& r) { return takes_press(r.what); });
-    p.until([&] { return !board.findChildren<QPushButton*>().isEmpty(); }); // once it is drawn ahead
-    EXPECT_EQ(board.findChildren<QPushButton*>().size(), buttons);
-}
-
-TEST(View, ASideWindowHasTheScaleOfMainWhereThereIsRoom) {
-    program p;
-    p.start();
-    const QSize room = p.s.window->screen()->availableSize() * 0.9;
-    const double zoom = std::max(0.75, main_window_zoom(*p.s.window));
-    for (const screen s : {screen::reelguide, screen::wintable, screen::statistics, screen::Highscore}) {
-        load_screen(p.s.g, s);
-        settle(p.s.g);
-        refresh(p.s);
-        const screenview* const view = p.s.side[static_cast<std::size_t>(s)];
-        ASSERT_NE(view, nullptr);
-        const QSizeF wanted = QSizeF(view->panel_size()) * zoom;
-        if (wanted.width() < room.width() && wanted.height() < room.height() - 40) {
-            EXPECT_EQ(view->size(), wanted.toSize()) << row(s).name;
-        } else {
-            EXPECT_LT(view->width() - 1, room.width()) << row(s).name;
-            EXPECT_LT(view->height() - 1, room.height()) << row(s).name;
-        }
-        unload_screen(p.s.g, s);
-    }
-}
-
-TEST(View, TheFirstSizeIsTheLargestStepThatFits) {
-    const QSize panel(800, 600), around(20, 70);
-    const auto zoom = [&](QSize area) { return fitting_size(panel, around, area).width() / 800.0; };
-    const auto area_for = [&](double step) { // just enough, with a twentieth left free
-        return QSize(qCeil((800 * step + 20) / 0.95), qCeil((600 * step + 70) / 0.95));
-    };
-    for (const double step : {3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0, 0.9, 0.8, 0.75, 0.6, 0.5}) {
-        EXPECT_DOUBLE_EQ(zoom(area_for(step)), step);
-        EXPECT_LT(zoom(area_for(step) - QSize(2, 0)), step);
-        EXPECT_LT(zoom(area_for(step) - QSize(0, 2)), step);
-    }
-    EXPECT_DOUBLE_EQ(zoom({9000, 9000}), 3);
-    EXPECT_NEAR(zoom(area_for(0.45)), 0.45, 0.005); // smaller than every step: as it fits
-    EXPECT_DOUBLE_EQ(zoom({100, 100}), 0.4);
 }
 
 } // namespace
