@@ -1,5 +1,4 @@
 #include "desktop/platform/places.h"
-#include "desktop/platform/stablefile.h"
 #include "desktop/session/onlyone.h"
 #include "desktop/session/session.h"
 #include "desktop/session/watch.h"
@@ -10,7 +9,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <sstream>
 #include <string>
 
 #ifdef __GLIBC__
@@ -83,15 +81,9 @@ int read_arguments(options& to, int count, char** arguments) {
 // Plays a script in the window.
 int watch_a_script(hustle::desktop::session& session, const std::string& path) {
     using namespace hustle::desktop;
-    const stored_text script = read_stored(".", path, hustle::script::longest_script + 1);
-    if (script.what != stored_text::state::there) {
-        std::fprintf(stderr, "hoardhustle: %s cannot be read: %s\n", path.c_str(), script.why.c_str());
-        return 2;
-    }
     watching watched;
-    std::istringstream lines(script.text);
-    if (const std::string wrong = hustle::script::read_script(lines, watched.text); !wrong.empty()) {
-        std::fprintf(stderr, "hoardhustle: %s %s\n", path.c_str(), wrong.c_str());
+    if (const std::string wrong = hustle::script::read_script_file(path, watched.text); !wrong.empty()) {
+        std::fprintf(stderr, "hoardhustle: %s %s\n", hustle::script::printable(path).c_str(), wrong.c_str());
         return 2;
     }
     watched.name = path;

@@ -24,6 +24,7 @@ struct runner {
     std::ostream& err;
     int line = 0;
     int status = 0;
+    std::function<void()> at_line = [] {};
 
     runner(std::string_view text, std::string_view name, std::ostream& to, std::ostream& errors)
         : s(to), rest(text), file(name), out(to), err(errors) {}
@@ -51,6 +52,16 @@ bool next_line(runner& r, std::string_view& line) {
         line.remove_suffix(1);
     ++r.line;
     return true;
+}
+
+// What a name stands for, to be looked at: a log that was cut is not what has happened.
+const cell& found(const runner& r, const token& name) {
+    const cell& c = r.s.known.find(name.text);
+    const auto* const text = std::get_if<std::string*>(&c.where);
+    if (text != nullptr && !c.traced && (*text)->size() > longest_log)
+        throw script_error(c.name + " has grown longer than " + std::to_string(longest_log) +
+                           " bytes; forget empties it");
+    return c;
 }
 
 void before_boot(const runner& r, std::string_view command) {
@@ -195,7 +206,7 @@ void give_answer(runner& r, const words& w) {
 void run(runner& r, const words& w) { r.s.run(r.s.g.p.now + read_whole(w[0], "run", 0, longest_run)); }
 
 void until(runner& r, const words& w) {
-    const cell& c = r.s.known.find(w[0].text);
+    const cell& c = found(r, w[0]);
     const value wanted = read_value(c.where, c.name, w[1], true);
     const std::int64_t last =
         r.s.g.p.now + (w.size() > 2 ? read_whole(w[2], "until", 0, longest_run) : 60'000);
@@ -207,16 +218,16 @@ void until(runner& r, const words& w) {
 }
 
 void get(runner& r, const words& w) {
-    std::string lines;
+    for (const token& t : w)
+        found(r, t); // nothing is printed of a line that cannot be understood
     for (const token& t : w) {
-        const cell& c = r.s.known.find(t.text);
-        lines.append(c.name).append(" = ").append(shown(c.where)).append("\n");
+        const cell& c = found(r, t);
+        r.out << c.name << " = " << shown(c.where) << '\n';
     }
-    r.out << lines;
 }
 
 void expect(runner& r, const words& w) {
-    const cell& c = r.s.known.find(w[0].text);
+    const cell& c = found(r, w[0]);
     if (!holds(c.where, read_value(c.where, c.name, w[1], true)))
         failed(r, c, w[1]);
 }
@@ -285,8 +296,10 @@ int run_lines(runner& r) {
     if (r.rest.starts_with(byte_order_mark))
         r.rest.remove_prefix(byte_order_mark.size());
     try {
-        for (std::string_view line; next_line(r, line);)
+        for (std::string_view line; next_line(r, line);) {
+            r.at_line();
             run_line(r, line);
+        }
     } catch (const script_error& wrong) {
         tell_wrong(r, wrong.what());
         return 2;
@@ -311,9 +324,11 @@ int run_script(std::string_view text, std::string_view name, std::ostream& out, 
 
 int watch_script(std::string_view text, std::string_view name, std::ostream& out, std::ostream& err,
                  const std::function<void(game&)>& passing,
-                 const std::function<void(game&, int status)>& at_end) {
+                 const std::function<void(game&, int status)>& at_end, const std::function<void()>& at_line) {
     runner r(text, name, out, err);
     r.s.passing = passing;
+    if (at_line)
+        r.at_line = at_line;
     const int status = run_lines(r);
     if (at_end)
         at_end(r.s.g, status);

@@ -18,9 +18,11 @@ int run_script(std::string_view text, std::string_view file, std::ostream& out, 
                const std::function<void(const game&)>& at_end);
 // The same, and tells `passing` each time that the clock reaches, before anything happens then: who
 // paints sees every state for as long as it stood. `at_end` is told when the script has come to its
-// end or to a line that it ends at, while the machine is still there.
+// end or to a line that it ends at, while the machine is still there; `at_line` before each line: one
+// that throws there or in `passing` has ended the script.
 int watch_script(std::string_view text, std::string_view file, std::ostream& out, std::ostream& err,
                  const std::function<void(game&)>& passing,
-                 const std::function<void(game&, int status)>& at_end = {});
+                 const std::function<void(game&, int status)>& at_end = {},
+                 const std::function<void()>& at_line = {});
 
 } // namespace hustle::script

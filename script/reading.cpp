@@ -53,8 +53,12 @@ std::string read_script(std::istream& from, std::string& text, std::size_t most)
 
 std::string read_script_file(const std::string& path, std::string& text, std::size_t most) {
     std::error_code unknown;
-    if (std::filesystem::is_directory(path, unknown))
+    const auto what = std::filesystem::status(path, unknown).type();
+    if (what == std::filesystem::file_type::directory)
         return "is a folder";
+    if (std::filesystem::exists(std::filesystem::file_status(what)) &&
+        what != std::filesystem::file_type::regular)
+        return "is a pipe or a device, not a file"; // it might keep its reader waiting, or never end
     std::ifstream file(path, std::ios::binary);
     return file ? read_script(file, text, most) : "cannot be read";
 }

@@ -12,7 +12,7 @@ inline constexpr std::size_t longest_of_lab = 1000
                                               << 20; // bytes: a machine of the lab that was played for days
 
 // Reads a whole script. Returns what is wrong with it, empty where nothing is: it cannot be read, is
-// longer than `most` bytes, or is no text.
+// longer than `most` bytes, is no text, or is named and is no plain file.
 std::string read_script(std::istream&, std::string& text, std::size_t most = longest_script);
 std::string read_script_file(const std::string& path, std::string& text, std::size_t most = longest_script);
 

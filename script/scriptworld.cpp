@@ -5,11 +5,15 @@
 #include "panel/text.h"
 #include "script/lexer.h"
 
+#include <limits>
+
 namespace hustle::script {
 
 namespace {
 
 void append(std::string& log, std::string_view between, std::string_view entry) {
+    if (log.size() > longest_log)
+        return;
     if (!log.empty())
         log += between;
     log += entry;
@@ -46,7 +50,7 @@ int scriptworld::draw(int n) {
         draws.pop_front();
         result = static_cast<int>(queued);
     }
-    ++drawn;
+    drawn += drawn < std::numeric_limits<int>::max() ? 1 : 0;
     if (telling)
         tell("draw ", std::to_string(n), " -> ", std::to_string(result));
     return result;

@@ -11,6 +11,8 @@
 
 namespace hustle::script {
 
+inline constexpr std::size_t longest_log = 16 << 20; // bytes, of sounds, of commands or of boxes
+
 enum class answer : std::uint8_t { yes, no, ok };
 
 // What a script and its trace call a command for the tune: "open ...", "play mid1 from 0", "stop mid1",
@@ -29,11 +31,12 @@ struct scriptworld final : world {
     std::array<stored, 2> files;
     bool ended = false;
 
-    // The logs since the start or the last `forget`.
+    // The logs since the start or the last `forget`. One that has grown longer than `longest_log` is
+    // written no further, and is refused where it is asked for.
     std::string sounds;   // names, a blank between
     std::string commands; // of the tune, ";" between
     std::string boxes;    // title|text, ";" between
-    int drawn = 0;
+    int drawn = 0;        // no further than an int counts
 
     // The effects of the running event as trace lines, while a trace is written.
     bool telling = false;

@@ -7,7 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace hustle::script {
 namespace {
@@ -95,7 +99,11 @@ TEST(Script, TakesOnlyWholeTextsOfABoundedSize) {
     std::string text;
     EXPECT_EQ(read_script_file("/", text), "is a folder");
     EXPECT_EQ(read_script_file("nowhere.txt", text), "cannot be read");
-    EXPECT_EQ(read_script_file("/dev/zero", text), "is longer than 16777216 bytes");
+    EXPECT_EQ(read_script_file("/dev/zero", text), "is a pipe or a device, not a file");
+    const std::string pipe = ::testing::TempDir() + "pipe" + std::to_string(::getpid());
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(read_script_file(pipe, text), "is a pipe or a device, not a file") << "nobody writes to it";
+    std::filesystem::remove(pipe);
     std::istringstream seven("1234567"), six("123456");
     EXPECT_EQ(read_script(seven, text, 6), "is longer than 6 bytes");
     EXPECT_EQ(read_script(six, text, 6), "");
@@ -190,6 +198,23 @@ TEST(Script, KeepsLogsFilesAndAnswers) {
     EXPECT_EQ(run("trace on\nboot\nanswer yes\npress main.newgame\n").out.find("yesno -> yes") ==
                   std::string::npos,
               false);
+}
+
+// A sound every millisecond for a day, as a stranger's script may ask for.
+TEST(Script, WritesALogNoFurtherThanItsLength) {
+    std::ostringstream unused;
+    session s(unused);
+    while (s.w.sounds.size() <= longest_log)
+        s.w.play(sound::nudgenow);
+    const std::size_t there = s.w.sounds.size();
+    s.w.play(sound::nudgenow);
+    EXPECT_EQ(s.w.sounds.size(), there);
+    const std::string loud =
+        "set main.trailskill.interval 1\nset main.trailskill.running true\nrun 1500000\n";
+    for (const char* asked : {"get credits sounds", "expect sounds \"\"", "until sounds \"\""})
+        EXPECT_EQ(run(loud + asked).err,
+                  "s:4: sounds has grown longer than 16777216 bytes; forget empties it\n");
+    EXPECT_EQ(run(loud + "forget\nget sounds credits").out, "sounds = \"\"\ncredits = 20\n");
 }
 
 TEST(Script, HoldsStillAfterTheExit) {

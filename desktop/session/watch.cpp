@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QToolBar>
 
+#include <ostream>
+
 namespace hustle::desktop {
 
 namespace {
@@ -30,11 +32,19 @@ void wait_here(watching& w, game& g, bool at_end) {
         throw stop{};
 }
 
+// A script that lets no time pass can be ended as well.
+void look_for_the_stop(watching& w) {
+    const std::scoped_lock held(w.lock);
+    if (w.stopped)
+        throw stop{};
+}
+
 void run_it(watching& w) {
+    std::ostream printed(&w.printed), failed(&w.failed);
     try {
         script::watch_script(
-            w.text, w.name, w.printed, w.failed, [&](game& g) { wait_here(w, g, false); },
-            [&](game& g, int) { wait_here(w, g, true); });
+            w.text, w.name, printed, failed, [&](game& g) { wait_here(w, g, false); },
+            [&](game& g, int) { wait_here(w, g, true); }, [&] { look_for_the_stop(w); });
     } catch (const stop&) {
     }
 }
@@ -63,7 +73,7 @@ QString state_of(const watching& w, std::int64_t ms, bool ended) {
     QString text = QString("  %1 s").arg(static_cast<double>(ms) / 1000, 0, 'f', 2);
     if (ended)
         text += "   the script has ended";
-    const std::string wrong = ended ? w.failed.str() : std::string();
+    const std::string wrong = ended ? w.failed.text : std::string();
     return wrong.empty() ? text : text + ": " + QString::fromStdString(wrong).simplified();
 }
 

@@ -7,10 +7,11 @@
 #include <QString>
 #include <QTimer>
 
+#include <algorithm>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
-#include <sstream>
+#include <streambuf>
 #include <string>
 #include <thread>
 
@@ -23,6 +24,23 @@ struct game;
 namespace hustle::desktop {
 
 struct session;
+
+// Keeps the beginning of what is printed: a script may print without an end.
+struct beginning : std::streambuf {
+    static constexpr std::size_t most = 64 << 10; // bytes
+    std::string text;
+
+    std::streamsize xsputn(const char* from, std::streamsize count) override {
+        text.append(from, std::min(static_cast<std::size_t>(count), most - text.size()));
+        return count;
+    }
+    int_type overflow(int_type c) override {
+        const char one = traits_type::to_char_type(c);
+        if (!traits_type::eq_int_type(c, traits_type::eof()))
+            xsputn(&one, 1);
+        return traits_type::not_eof(c);
+    }
+};
 
 struct watching {
     std::string text, name; // of the script
@@ -38,7 +56,7 @@ struct watching {
     game* waits = nullptr;    // the script's machine while it waits; null while it runs
     bool ended = false;
     bool stopped = false;
-    std::ostringstream printed, failed; // read once it has ended
+    beginning printed, failed; // read once it has ended
     std::jthread worker;
 };
 

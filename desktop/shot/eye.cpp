@@ -2,14 +2,13 @@
 
 #include "art/lamplooks.h"
 #include "script/commands.h"
+#include "script/reading.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 
 namespace hustle::desktop {
 
@@ -128,13 +127,13 @@ void watch(eye& e, game& g) {
 }
 
 int watch_file(eye& e, const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text, printed;
-    if (!(text << file.rdbuf())) {
-        std::cerr << path << ": cannot be read\n";
+    std::string text;
+    if (const std::string wrong = script::read_script_file(path, text); !wrong.empty()) {
+        std::cerr << script::printable(path) << ": " << wrong << '\n';
         return 2;
     }
-    return script::watch_script(text.str(), path, printed, std::cerr, [&](game& g) { watch(e, g); });
+    std::ostream unheard(nullptr);
+    return script::watch_script(text, path, unheard, std::cerr, [&](game& g) { watch(e, g); });
 }
 
 } // namespace hustle::desktop

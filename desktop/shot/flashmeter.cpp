@@ -63,7 +63,7 @@ bool row_is_safe(const std::string& script, bool reduced, bool& readable) {
         measure(meter, picture, changed, ms);
     };
     readable = watch_file(watcher, script) == 0;
-    return tell(QFileInfo(QString::fromStdString(script)).baseName().toStdString(), meter);
+    return readable && tell(QFileInfo(QString::fromStdString(script)).baseName().toStdString(), meter);
 }
 
 } // namespace

@@ -78,7 +78,7 @@ TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
     p.until([&] { return w.told != nullptr && w.told->text().contains("has ended"); }); // and is shown
     stop_watching(w);
     const script::names shown(p.s.g);
-    EXPECT_EQ(w.printed.str(), "hash = " + script::hash_text(shown) + "\n");
+    EXPECT_EQ(w.printed.text, "hash = " + script::hash_text(shown) + "\n");
     EXPECT_EQ(p.stored("game.dat"), "");
     p.s.g.p.over = true; // as a script leaves it that closes main
     QTimer::singleShot(0, &p.s.wake, [&] { leave(p.s); });
