@@ -14,6 +14,7 @@ namespace hustle::desktop {
 namespace {
 
 constexpr const char* coming = ".new"; // behind the name of a file that is being written
+constexpr const char* trial = "hoardhustle.trial";
 constexpr int most_kept = 99;
 
 int system_open(int folder, const char* name, int flags, mode_t mode) {
@@ -21,6 +22,9 @@ int system_open(int folder, const char* name, int flags, mode_t mode) {
 }
 int system_rename(int folder, const char* from, const char* to) {
     return ::renameat(folder, from, folder, to);
+}
+int system_move(int folder, const char* from, const char* to) {
+    return ::renameat2(folder, from, folder, to, RENAME_NOREPLACE);
 }
 int system_remove(int folder, const char* name) { return ::unlinkat(folder, name, 0); }
 
@@ -82,8 +86,8 @@ bool is_free(int folder, const std::string& name) {
 }
 
 // Moves a file where nothing stands yet; EEXIST where something does.
-bool move_to_free(int folder, const std::string& from, const std::string& to) {
-    if (::renameat2(folder, from.c_str(), folder, to.c_str(), RENAME_NOREPLACE) == 0)
+bool move_to_free(const file_calls& calls, int folder, const std::string& from, const std::string& to) {
+    if (calls.move(folder, from.c_str(), to.c_str()) == 0)
         return true;
     if (errno != EINVAL && errno != ENOSYS)
         return false;
@@ -91,7 +95,7 @@ bool move_to_free(int folder, const std::string& from, const std::string& to) {
         errno = EEXIST;
         return false;
     }
-    return ::renameat(folder, from.c_str(), folder, to.c_str()) == 0;
+    return calls.rename(folder, from.c_str(), to.c_str()) == 0;
 }
 
 std::string unreadable_kind(const struct stat& what) {
@@ -115,8 +119,8 @@ bool read_all(int file, std::string& text, std::size_t most) {
 
 } // namespace
 
-const file_calls system_calls = {system_open, ::write,       ::fdatasync,  ::fsync,
-                                 ::close,     system_rename, system_remove};
+const file_calls system_calls = {system_open, ::write,       ::fdatasync, ::fsync,
+                                 ::close,     system_rename, system_move, system_remove};
 
 stored_text read_stored(const std::string& folder, const std::string& name, std::size_t most) {
     using enum stored_text::state;
@@ -152,13 +156,13 @@ std::string save_stored(const std::string& folder, const std::string& name, std:
     return flush_folder(calls, place.number) ? std::string() : reason();
 }
 
-std::string keep_aside(const std::string& folder, const std::string& name) {
-    const handle place(system_calls, open_folder(system_calls, folder));
+std::string keep_aside(const std::string& folder, const std::string& name, const file_calls& calls) {
+    const handle place(calls, open_folder(calls, folder));
     for (int n = 1; place.is_open() && n <= most_kept; ++n) {
         std::string kept = name + ".damaged";
         if (n > 1)
             kept.append("-").append(std::to_string(n));
-        if (move_to_free(place.number, name, kept))
+        if (move_to_free(calls, place.number, name, kept))
             return kept;
         if (errno != EEXIST)
             break;
@@ -174,12 +178,11 @@ std::string why_not_writable(const std::string& folder) {
     const handle place(system_calls, open_folder(system_calls, folder));
     if (!place.is_open())
         return reason();
-    const std::string trial = std::string("trial") + coming;
-    system_calls.remove(place.number, trial.c_str());
+    system_calls.remove(place.number, trial); // of a start that was killed
     std::string why;
     if (!write_new(system_calls, place.number, trial, "can this folder be written to?\n", false))
         why = reason();
-    system_calls.remove(place.number, trial.c_str());
+    system_calls.remove(place.number, trial);
     return why;
 }
 

@@ -18,6 +18,7 @@ struct file_calls {
     int (*flush_folder)(int folder);
     int (*close)(int file);
     int (*rename)(int folder, const char* from, const char* to);
+    int (*move)(int folder, const char* from, const char* to); // where nothing stands: else EEXIST
     int (*remove)(int folder, const char* name);
 };
 extern const file_calls system_calls;
@@ -41,7 +42,7 @@ std::string save_stored(const std::string& folder, const std::string& name, std:
 
 // Keeps a file under a name of its own, NAME.damaged or the first of NAME.damaged-2 to -99 that is
 // free; the name, or empty where the file could not be moved and stands where it stood.
-std::string keep_aside(const std::string& folder, const std::string& name);
+std::string keep_aside(const std::string& folder, const std::string& name, const file_calls& = system_calls);
 
 // Removes what a save of this file left behind when it was killed.
 void sweep_stored(const std::string& folder, const std::string& name);

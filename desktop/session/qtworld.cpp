@@ -36,6 +36,14 @@ QString text_of(std::string_view text) {
 
 std::string folder_of(const qtworld& w) { return QFile::encodeName(w.data).toStdString(); }
 std::string name_of(store file) { return std::string(name(file)); }
+// A stored file is lines of text. What no line holds can only have been put there by hand; a blank stands
+// for it, as the machine itself stores it, so that a script can tell the file.
+std::string as_lines(std::string text) {
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text[i] == '\0' || (text[i] == '\r' && (i + 1 == text.size() || text[i + 1] != '\n')))
+            text[i] = ' ';
+    return text;
+}
 std::string& reason_not_to_touch(qtworld& w, store file) {
     return w.untouchable[static_cast<std::size_t>(file)];
 }
@@ -124,7 +132,7 @@ void qtworld::wait(int ms) {
 std::optional<std::string> qtworld::read(store file) {
     stored_text found = read_stored(folder_of(*this), name_of(file));
     switch (found.what) {
-    case stored_text::state::there: return std::move(found.text);
+    case stored_text::state::there: return as_lines(std::move(found.text));
     case stored_text::state::missing: return {};
     case stored_text::state::unreadable: break;
     }
@@ -194,7 +202,9 @@ std::string qtworld::currency(float amount) {
                                                              system.territory() == QLocale::UnitedKingdom);
     if (at_home) // as a panel script tells it, which a replay of this session must
         return std::string(std::string_view(uk_currency(amount)));
-    return system.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
+    std::string told = system.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
+    record_amount(s->record, told);
+    return told;
 }
 
 void qtworld::exit() { QCoreApplication::exit(0); }

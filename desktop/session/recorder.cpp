@@ -5,6 +5,8 @@
 #include "script/dump.h"
 #include "script/lexer.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <utility>
 
@@ -57,10 +59,33 @@ std::string line_of(const input& in) {
     return {};
 }
 
+// A replay tells amounts in its own form: it is given those that the player saw. A name in the table may hold
+// what no script can tell.
+void tell_amounts(recorder& r) {
+    const auto bears_one = [&](std::string_view text) {
+        return std::any_of(r.amounts.begin(), r.amounts.end(),
+                           [&](const std::string& a) { return text.find(a) != std::string_view::npos; });
+    };
+    for (const script::cell& c : r.names->all()) {
+        const auto* const text = std::get_if<std::string*>(&c.where);
+        if (r.amounts.empty() || text == nullptr || !c.store || !bears_one(**text))
+            continue;
+        const std::string quoted = script::quote(**text);
+        try {
+            script::words_of(quoted);
+        } catch (const script::script_error&) {
+            continue;
+        }
+        tell(r, "set", c.name, quoted);
+    }
+    r.amounts.clear();
+}
+
 void record_time(recorder& r, const game& g) {
     tell_chances(r);
     if (r.until > r.since)
         tell(r, "run", std::to_string(r.until - r.since));
+    tell_amounts(r);
     r.since = r.until = g.p.now;
 }
 
@@ -68,8 +93,12 @@ bool write_out(recorder& r) {
     std::string_view rest = r.text;
     while (!rest.empty()) {
         const ssize_t done = ::write(r.file, rest.data(), rest.size());
-        if (done <= 0)
+        if (done < 0 && errno == EINTR)
+            continue;
+        if (done <= 0) { // of a piece all or nothing: half a line is none that can be replayed
+            [[maybe_unused]] const int ignored = ::ftruncate(r.file, static_cast<off_t>(r.written));
             return false;
+        }
         rest.remove_prefix(static_cast<std::size_t>(done));
     }
     r.written += r.text.size();
@@ -81,8 +110,9 @@ bool write_out(recorder& r) {
 
 void begin_recording(recorder& r, const std::string& folder, game& g, std::int64_t clock_ms) {
     const std::string path = folder + "/" + session_name;
-    std::rename(path.c_str(), (folder + "/" + session_before).c_str());
-    r.file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (std::rename(path.c_str(), (folder + "/" + session_before).c_str()) == 0)
+        ::unlink(path.c_str()); // two names of one file are left as they are by a rename
+    r.file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (r.file < 0)
         return;
     r.names = std::make_unique<script::names>(g);
@@ -109,6 +139,11 @@ void record_answer(recorder& r, const message& m, bool yes) {
         r.answers.append("answer ").append(!m.yes_or_no ? "ok" : yes ? "yes" : "no").append("\n");
 }
 
+void record_amount(recorder& r, const std::string& told) {
+    if (r.file >= 0 && r.stands && std::find(r.amounts.begin(), r.amounts.end(), told) == r.amounts.end())
+        r.amounts.push_back(told);
+}
+
 void record_boot(recorder& r, const game& g) {
     if (r.file < 0)
         return;
@@ -132,6 +167,7 @@ void record_input(recorder& r, const game& g) {
         return;
     tell_chances(r);
     r.text += std::exchange(r.asked, {});
+    tell_amounts(r);
     r.since = r.until = g.p.now;
 }
 

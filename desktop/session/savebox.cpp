@@ -18,7 +18,7 @@ QString shown(const QString& folder) { return QDir::toNativeSeparators(folder); 
 void warn(const QString& text, const QString& more) {
     QMessageBox box(QMessageBox::Warning, {}, text, QMessageBox::Ok, box_parent());
     dress(box, "Hoard Hustle");
-    box.setInformativeText(more);
+    add_plain(box, more);
     box.exec();
 }
 
@@ -40,10 +40,9 @@ void note_unsaved(const QString& folder, const QString& why) {
                                 QString("What you have won is not on the disk: %1.").arg(why),
                                 QMessageBox::Ok, box_parent());
     dress(*box, "Hoard Hustle");
-    box->setInformativeText(
-        QString("%1 could not be saved in %2. It is tried again after each play, and "
-                "at the end another folder can be chosen.")
-            .arg(QString::fromStdString(std::string(name(store::game_dat))), shown(folder)));
+    add_plain(*box, QString("%1 could not be saved in %2. It is tried again after each play, and "
+                            "at the end another folder can be chosen.")
+                        .arg(QString::fromStdString(std::string(name(store::game_dat))), shown(folder)));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);
     box->show();
@@ -53,7 +52,7 @@ std::string ask_where_to_save(const QString& folder, const QString& file, const 
     QMessageBox box(QMessageBox::Warning, {}, QString("%1 is not saved: %2.").arg(file, why),
                     QMessageBox::NoButton, box_parent());
     dress(box, "Hoard Hustle");
-    box.setInformativeText(QString("It belongs in %1.").arg(shown(folder)));
+    add_plain(box, QString("It belongs in %1.").arg(shown(folder)));
     const QPushButton* const again = box.addButton("&Try Again", QMessageBox::AcceptRole);
     const QPushButton* const elsewhere = box.addButton("Save &Elsewhere...", QMessageBox::ActionRole);
     QPushButton* const without = box.addButton("&Do Without", QMessageBox::RejectRole);

@@ -1,6 +1,7 @@
 #include "desktop/window/boxes.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace hustle::desktop {
@@ -23,6 +24,12 @@ void dress(QMessageBox& box, const QString& title) {
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText); // a folder may be called anything
     box.setStyleSheet(box_style);
+}
+
+void add_plain(QMessageBox& box, const QString& more) {
+    box.setInformativeText(more);
+    if (auto* const label = box.findChild<QLabel*>("qt_msgbox_informativelabel"))
+        label->setTextFormat(Qt::PlainText);
 }
 
 QWidget* box_parent() { return QApplication::activeWindow(); }

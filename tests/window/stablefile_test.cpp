@@ -85,6 +85,7 @@ const file_calls bad_disk = {
     [](int at, const char* from, const char* to) {
         return harmed("m") ? -1 : after(system_calls.rename(at, from, to));
     },
+    system_calls.move,
     [](int at, const char* name) { return harmed("r") ? -1 : after(system_calls.remove(at, name)); },
 };
 
@@ -179,17 +180,28 @@ TEST(StableFile, IsNoLinkNoPipeAndNoFolder) {
     EXPECT_EQ(read_stored("/dev", "zero").what, unreadable);
     EXPECT_EQ(read_stored(f.path, "nothing").what, missing);
     EXPECT_NE(why_not_writable(f / "nowhere"), "");
-    std::ofstream(f / "trial.new") << "of a run that was killed";
+    std::ofstream(f / "trial.new") << "the player's own";
+    std::ofstream(f / "hoardhustle.trial") << "of a start that was killed";
     EXPECT_EQ(why_not_writable(f.path), "");
-    EXPECT_EQ(f.count(), 4) << "the trial is gone";
+    EXPECT_EQ(f.count(), 5) << "the trial is gone, and it alone";
 }
 
 TEST(StableFile, KeepsEveryDamagedOne) {
     const folder f;
-    for (const char* kept : {"game.dat.damaged", "game.dat.damaged-2", "game.dat.damaged-3"}) {
-        ASSERT_EQ(save_stored(f.path, "game.dat", kept), "");
-        EXPECT_EQ(keep_aside(f.path, "game.dat"), kept);
-    }
+    file_calls simple = system_calls; // a file system that knows no move without replacing
+    simple.move = [](int, const char*, const char*) { return errno = EINVAL, -1; };
+    for (const bool knows : {true, false})
+        for (const char* kept : {"game.dat.damaged", "game.dat.damaged-2", "game.dat.damaged-3"}) {
+            fs::remove(f / kept); // its place is free; the second time those behind it are not
+            ASSERT_EQ(save_stored(f.path, "game.dat", kept), "");
+            EXPECT_EQ(keep_aside(f.path, "game.dat", knows ? system_calls : simple), kept);
+        }
+    file_calls refused = system_calls;
+    refused.move = [](int, const char*, const char*) { return errno = EACCES, -1; };
+    ASSERT_EQ(save_stored(f.path, "game.dat", now), "");
+    EXPECT_EQ(keep_aside(f.path, "game.dat", refused), "");
+    EXPECT_EQ(text_of(f / "game.dat"), now) << "it stands where it stood";
+    fs::remove(f / "game.dat");
     EXPECT_EQ(text_of(f / "game.dat.damaged"), "game.dat.damaged");
     EXPECT_EQ(text_of(f / "game.dat.damaged-2"), "game.dat.damaged-2");
     EXPECT_EQ(keep_aside(f.path, "game.dat"), "") << "what is not there was kept";
