@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
@@ -16,8 +17,9 @@ namespace hustle::desktop {
 struct program {
     QTemporaryDir folder;
     session s;
-    QStringList told;       // the boxes so far
-    QStringList costs;      // what a Yes in them costs
+    QStringList told;  // the boxes so far
+    QStringList costs; // what a Yes in them costs
+    Qt::TextFormat costs_format = Qt::AutoText;
     std::string recorded;   // the session's file while the last one stood
     QString button = "&OK"; // what is clicked in the next ones
     QTimer hand;            // of a player who answers every box
@@ -36,6 +38,8 @@ struct program {
             return;
         told << box->text();
         costs << box->informativeText();
+        if (const auto* more = box->findChild<QLabel*>("qt_msgbox_informativelabel"))
+            costs_format = more->textFormat();
         recorded = stored("session.txt");
         for (QAbstractButton* b : box->buttons())
             if (b->text() == button)

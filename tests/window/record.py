@@ -1,5 +1,6 @@
 """Plays a real window at random, kills it with SIGKILL, and replays the session that it has written:
-at every hash in the file the replayed machine must stand in the same state, to the last lamp.
+at every hash in the file the replayed machine must stand in the same state, to the last lamp. It is played
+in a country whose amounts a panel script does not know.
 
 Usage: record.py HOARDHUSTLE HUSTLESCRIPT [SECONDS]
 """
@@ -13,6 +14,7 @@ import time
 from window import SCRIPT, Machine, run
 
 SECONDS = float(sys.argv[3]) if len(sys.argv) > 3 else 20
+COUNTRY = "de_DE"
 KEYS = ["space"] * 6 + ["1", "2", "3", "0", "c", "Escape", "Return", "Tab", "F1"]
 MENUS = ["v", "r", "i", "n"]  # of Game: the table, the refill, a coin, a new game
 
@@ -43,15 +45,19 @@ def replay(path):
     for second, (want, have) in enumerate(zip(wanted, found)):
         assert want == have, f"hash {second} of {len(wanted)}: {have}, not {want}"
     assert len(wanted) == len(found)
+    with open(path, encoding="utf-8") as file:
+        assert "€" in file.read(), "no amount of that country was seen"
     print(f"{len(wanted)} hashes hold")
 
 
 def record(display, folder):
     seed = int(os.environ.get("SEED", "5"))  # of the presses; their times are the real clock's
     print(f"seed {seed}")
-    machine = Machine(display, seed, folder)
+    machine = Machine(display, seed, folder, country=COUNTRY)
     session = os.path.join(folder, "session.txt")
     try:
+        for window in "vr":  # the table and the ledgers, with amounts as that country writes them
+            machine.menu("g", window)
         play_at_random(machine, random.Random(seed))
     finally:
         machine.stop()  # SIGKILL

@@ -1,4 +1,5 @@
 // Sessions written down, and scripts that are watched.
+#include "core/files.h"
 #include "desktop/session/leaving.h"
 #include "desktop/session/watch.h"
 #include "script/commands.h"
@@ -10,7 +11,12 @@
 #include <QApplication>
 #include <QLabel>
 
+#include <csignal>
 #include <sstream>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace hustle::desktop {
 
@@ -53,9 +59,94 @@ TEST(Session, IsWrittenDownSoThatItCanBeHadAgain) {
     EXPECT_NE(wanted, "");
 }
 
+// What stands in the place of a session or of the one before it; 0 where it could be put there.
+int put_in_the_way(std::string_view what, const std::string& session, const std::string& before) {
+    if (what == "a folder")
+        return ::mkdir(before.c_str(), 0700);
+    if (what == "a second name")
+        return ::link(session.c_str(), before.c_str());
+    if (what == "a pipe")
+        return ::unlink(session.c_str()) + ::mkfifo(session.c_str(), 0600);
+    return 0;
+}
+
+// The last session is what a player who has just met a fault wants to send.
+TEST(Session, EmptiesNoSessionThatItCannotKeep) {
+    const std::string last = "# the last one\n";
+    for (const std::string_view what : {"nothing", "a folder", "a second name", "a pipe"}) {
+        program p;
+        const std::string folder = p.folder.path().toStdString();
+        ASSERT_EQ(save_stored(folder, "session.txt", last), "");
+        ASSERT_EQ(put_in_the_way(what, folder + "/session.txt", folder + "/session-before.txt"), 0) << what;
+        p.start();
+        end_session(p.s);
+        const bool recorded = what != "a folder";
+        EXPECT_EQ(p.stored("session.txt").starts_with("# A session of Hoard Hustle"), recorded) << what;
+        if (what != "a pipe") {
+            EXPECT_EQ(p.stored(recorded ? "session-before.txt" : "session.txt"), last) << what;
+        }
+    }
+}
+
+TEST(Session, EndsItsRecordAtAFullDiskWithoutHalfALine) {
+    program p;
+    p.start();
+    flush_recording(p.s.record, p.s.g);
+    const std::string there = p.stored("session.txt");
+    struct rlimit before {
+    }, full{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    full = before;
+    full.rlim_cur = there.size() + 5;
+    ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &full);
+    send(p.s, {input::kind::press, screen::main, element::start});
+    flush_recording(p.s.record, p.s.g);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(p.stored("session.txt"), there);
+    EXPECT_LT(p.s.record.file, 0);
+    const auto then = p.s.g.p.now;
+    p.until([&] { return p.s.g.p.now > then + 50; }); // and play goes on
+}
+
+// Put there by hand: no line of a script can hold it.
+TEST(Session, ReadsWhatNoLineHoldsAsBlanks) {
+    program p;
+    const std::string folder = p.folder.path().toStdString();
+    machine m;
+    m.hiname.fill("Ada");
+    std::string text = table_text(m);
+    for (const char odd : {'\0', '\r'})
+        text[text.find("Ada") + 1] = odd; // the second in the next one
+    ASSERT_EQ(save_stored(folder, "hscore.dat", text), "");
+    p.start();
+    EXPECT_EQ(p.s.g.m.hiname[0], "A a");
+    EXPECT_EQ(p.s.g.m.hiname[1], "A a");
+    EXPECT_EQ(p.s.g.m.hiname[2], "Ada");
+    EXPECT_TRUE(p.told.isEmpty());
+}
+
 TEST(Session, PlaysInPoundsWhereTheSystemHasNoCountry) {
     program p;
     EXPECT_EQ(p.s.world.currency(3.6F), "£3.60");
+}
+
+// As one does that gives out all it knows again and again.
+TEST(Session, EndsAWatchedScriptThatLetsNoTimePass) {
+    program p;
+    p.s.world.saving = false;
+    open_session(p.s);
+    watching w;
+    w.text = "boot\n";
+    for (int i = 0; i < 500'000; ++i)
+        w.text += "dump\n";
+    start_watching(p.s, w);
+    p.s.real.start();
+    p.until([&] { return p.s.real.elapsed() > 200; });
+    stop_watching(w);
+    EXPECT_FALSE(w.ended);
+    EXPECT_LE(w.printed.text.size(), beginning::most);
+    EXPECT_NE(w.printed.text, "");
 }
 
 TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {

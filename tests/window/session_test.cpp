@@ -17,6 +17,8 @@
 #include <QSessionManager>
 #include <QTemporaryDir>
 
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <optional>
 #include <thread>
@@ -44,6 +46,32 @@ TEST(Session, LeavesOnASignalLikeAPlayerWhoClosesEveryWindow) {
         EXPECT_EQ(read.hiname[0], "           ANNA");
         EXPECT_TRUE(read_game_text(read, p.stored("game.dat")));
     }
+}
+
+// A handler that runs between a call that fails and the look at why must not change the reason.
+TEST(Session, ASignalLeavesTheReasonOfAFailedCall) {
+    program p;
+    p.start();
+    for (int full = 0; full < 20'000; ++full) // nobody empties the pair while the loop runs
+        ::raise(SIGHUP);
+    errno = ENOSPC;
+    ::raise(SIGHUP);
+    EXPECT_EQ(errno, ENOSPC);
+    p.until_over();
+}
+
+TEST(Session, WaitsAtItsEndForASaveThatIsUnderWay) {
+    program p;
+    p.start();
+    bool done = false;
+    p.s.saving.saved = [&](const std::string&) { // on the saver's thread
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        done = true;
+    };
+    save_soon(p.s.saving, "text");
+    end_session(p.s);
+    EXPECT_TRUE(done);
+    EXPECT_EQ(p.stored("game.dat"), "text");
 }
 
 TEST(Session, LeavesAlsoWhileABoxAsks) {
@@ -114,6 +142,7 @@ TEST(Session, TellsAnUnreadableFileAndLeavesIt) {
     p.start();
     ASSERT_EQ(p.told.size(), 1);
     EXPECT_TRUE(p.told[0].contains("game.dat is there but cannot be read")) << p.told[0].toStdString();
+    EXPECT_EQ(p.costs_format, Qt::PlainText) << "a folder may be called anything";
     EXPECT_FALSE(may_write(p.s.world, store::game_dat));
     send(p.s, {input::kind::press, screen::main, element::sreelspin}); // which is kept at once
     finish(p.s.saving);

@@ -52,9 +52,9 @@ class Display:
 class Machine:
     """The program in its window, with a folder of its own for the two files."""
 
-    def __init__(self, display, seed, folder, wait_for_main=True):
+    def __init__(self, display, seed, folder, wait_for_main=True, country="C"):
         self.env = dict(os.environ, DISPLAY=display.name, HUSTLE_DATA=folder, HUSTLE_SEED=str(seed),
-                        SDL_AUDIODRIVER="dummy", LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb",
+                        SDL_AUDIODRIVER="dummy", LC_ALL=country + ".UTF-8", QT_QPA_PLATFORM="xcb",
                         QT_SCALE_FACTOR="1", PATH=self.browser(folder) + os.pathsep + os.environ["PATH"])
         self.folder = folder
         self.session = os.path.join(folder, "session.txt")
