@@ -7,6 +7,7 @@ Usage: record.py HOARDHUSTLE HUSTLESCRIPT [SECONDS]
 
 import os
 import random
+import signal
 import subprocess
 import sys
 import time
@@ -28,11 +29,24 @@ def play_at_random(machine, chance):
             machine.xdo("key", chance.choice(KEYS))
         elif deed < 0.9:
             machine.xdo("mousemove", chance.randrange(1280), chance.randrange(60, 1024), "click", 1)
-        elif deed < 0.95:
+        elif deed < 0.92:  # as long as a laptop that is shut for a moment
+            machine.process.send_signal(signal.SIGSTOP)
+            time.sleep(chance.uniform(0.05, 0.6))
+            machine.process.send_signal(signal.SIGCONT)
+        elif deed < 0.96:
             machine.xdo("key", "alt+g", "key", chance.choice(MENUS))
         else:
             machine.xdo("windowfocus", machine.main)
         time.sleep(chance.uniform(0.02, 0.5))
+
+
+def see_it_told(machine):
+    """A box that stands open holds the hashes back: answers it until there are some."""
+    def look():
+        for window in machine.find("Hoard|Bank|Game|Reset"):
+            machine.xdo("windowfocus", window, "key", "Escape")
+        return machine.told().count("\nhash # ") >= 3
+    machine.wait("three hashes are written down", look)
 
 
 def replay(path):
@@ -41,7 +55,6 @@ def replay(path):
     done = subprocess.run([SCRIPT, path], capture_output=True, text=True, timeout=120)
     assert done.returncode == 0, done.stderr
     found = [line.split()[-1] for line in done.stdout.splitlines() if line.startswith("hash = ")]
-    assert len(wanted) >= 3, f"only {len(wanted)} hashes in {SECONDS} seconds"  # a box that stands open holds them back
     for second, (want, have) in enumerate(zip(wanted, found)):
         assert want == have, f"hash {second} of {len(wanted)}: {have}, not {want}"
     assert len(wanted) == len(found)
@@ -59,6 +72,7 @@ def record(display, folder):
         for window in "vr":  # the table and the ledgers, with amounts as that country writes them
             machine.menu("g", window)
         play_at_random(machine, random.Random(seed))
+        see_it_told(machine)
     finally:
         machine.stop()  # SIGKILL
     try:

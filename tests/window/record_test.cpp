@@ -8,8 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QTest>
 
 #include <csignal>
 #include <sstream>
@@ -109,6 +111,21 @@ TEST(Session, EndsItsRecordAtAFullDiskWithoutHalfALine) {
     p.until([&] { return p.s.g.p.now > then + 50; }); // and play goes on
 }
 
+TEST(Session, IsWrittenDownAsFarAsItsBoundAndSaysSo) {
+    program p;
+    p.start();
+    flush_recording(p.s.record, p.s.g);
+    const std::string there = p.stored("session.txt");
+    p.s.record.written += longest_session - there.size(); // as much as there may be
+    send(p.s, {input::kind::press, screen::main, element::start});
+    flush_recording(p.s.record, p.s.g);
+    EXPECT_EQ(p.stored("session.txt"),
+              there + "# The session goes on, and is longer than is written down.\n");
+    EXPECT_LT(p.s.record.file, 0);
+    send(p.s, {input::kind::press, screen::main, element::hold1}); // and nothing more is kept for it
+    EXPECT_EQ(p.s.record.text, "");
+}
+
 // Put there by hand: no line of a script can hold it.
 TEST(Session, ReadsWhatNoLineHoldsAsBlanks) {
     program p;
@@ -147,6 +164,46 @@ TEST(Session, EndsAWatchedScriptThatLetsNoTimePass) {
     EXPECT_FALSE(w.ended);
     EXPECT_LE(w.printed.text.size(), beginning::most);
     EXPECT_NE(w.printed.text, "");
+}
+
+TEST(Session, WatchesAtTheSpeedThatIsChosenAndTellsWhatDoesNotHold) {
+    program p;
+    p.s.world.saving = false;
+    open_session(p.s);
+    watching w;
+    w.text = "press main.start\nrun 100000\nexpect credits 18\n";
+    w.name = "<b>script</b>";
+    start_watching(p.s, w);
+    p.until([&] { return w.told != nullptr && p.s.g.p.now > 0; });
+    const auto entry = [&](const QString& text) {
+        for (QAction* a : p.s.window->findChildren<QAction*>())
+            if (a->text() == text)
+                return a;
+        return new QAction(&p.s.wake); // none such
+    };
+    EXPECT_TRUE(entry("1 x")->isChecked());
+    for (const auto& [text, speed] :
+         {std::pair{"20 x", 20.0}, {"4 x", 4.0}, {"0.25 x", 0.25}, {"Still", 0.0}}) {
+        entry(text)->trigger();
+        EXPECT_EQ(w.speed, speed) << text;
+    }
+    entry("1 x")->trigger();
+    QTest::keyClick(p.s.window, Qt::Key_Right);
+    EXPECT_EQ(w.speed, 0);
+    EXPECT_TRUE(entry("Still")->isChecked());
+    EXPECT_FALSE(entry("1 x")->isChecked());
+    const auto stood = p.s.g.p.now;
+    p.until([&] { return p.s.g.p.now > stood; });
+    EXPECT_TRUE(
+        w.told->text().startsWith(QString("  %1 s").arg(static_cast<double>(p.s.g.p.now) / 1000, 0, 'f', 2)))
+        << w.told->text().toStdString();
+    w.reach = 1e9;
+    entry("20 x")->trigger();
+    p.until([&] { return w.told->text().contains("has ended"); });
+    EXPECT_TRUE(w.told->text().endsWith(": <b>script</b>:3: expected credits = 18, found 19"))
+        << w.told->text().toStdString();
+    EXPECT_EQ(w.told->textFormat(), Qt::PlainText);
+    stop_watching(w);
 }
 
 TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
