@@ -214,6 +214,7 @@ TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
     w.text = "seed 1\npress main.start\nrun 3000\nhash\n";
     w.name = "script";
     w.speed = 0;
+    step_watched(w); // a hasty hand, before there is anything to step through
     start_watching(p.s, w);
     p.until([&] { return p.s.g.p.now > 0; });
     const auto first = p.s.g.p.now;
