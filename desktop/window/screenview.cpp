@@ -171,8 +171,6 @@ bool screenview::draw_now(art a, element on) {
         return false;
     if (played.g.p.dollars)
         a = dollar_version(a);
-    if (on >= element::reel1 && on <= element::reel3)
-        return prepare_strip(strips, device_rect(on).size(), played.g.p.dollars);
     pictures.dollars = played.g.p.dollars;
     const auto before = pictures.sharp.size();
     picture(pictures, a, device_rect(on).size());
@@ -197,6 +195,9 @@ void screenview::draw_again() {
 bool screenview::draw_one_ahead() {
     measure(); // a view that is not on show yet has been told no size
     if (prepare_backdrop(backdrop, played.g.p, what, scale))
+        return true;
+    if (what == hustle::screen::main &&
+        prepare_strip(strips, device_rect(element::reel1).size(), played.g.p.dollars))
         return true;
     const auto rows = elements_of(what); // first what stands there from the beginning
     while (next_row < rows.size()) {
