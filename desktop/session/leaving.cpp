@@ -58,8 +58,7 @@ void watch_for_the_end(session& s) {
         auto* const ear = new QSocketNotifier(ends[1], QSocketNotifier::Read, &s.wake);
         QObject::connect(ear, &QSocketNotifier::activated, ear, [&s, from = ends[1]] {
             std::array<char, 16> bytes{};
-            while (::read(from, bytes.data(), bytes.size()) > 0) {
-            }
+            [[maybe_unused]] const ssize_t ignored = ::read(from, bytes.data(), bytes.size());
             leave(s);
         });
         struct sigaction action {};
@@ -85,7 +84,7 @@ void leave(session& s) {
         QTimer::singleShot(again_ms, &s.wake, [&s] { leave(s); });
         return;
     }
-    for (int i = 0; i < most_windows && s.started && !s.g.p.over; ++i)
+    for (int i = 0; i < most_windows && !s.g.p.over; ++i)
         send(s, {input::kind::close, next_to_close(s.g)});
     if (!s.g.p.over) // nothing has been played yet
         QCoreApplication::exit(0);
@@ -105,7 +104,7 @@ void ask_to_leave(session& s) {
         QMessageBox box(QMessageBox::Question, {}, "Leave, and lose this game?",
                         QMessageBox::Yes | QMessageBox::No, box_parent());
         dress(box, "Hoard Hustle");
-        box.setInformativeText("What is on the board is not paid. What is in the bank counts for the table.");
+        add_plain(box, "What is on the board is not paid. What is in the bank counts for the table.");
         box.setDefaultButton(QMessageBox::No);
         box.setEscapeButton(QMessageBox::No);
         const int answer = box.exec();

@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 namespace hustle::desktop {
 
 namespace {
@@ -19,11 +21,8 @@ std::string options_of(const machine& m) {
 }
 
 void told(session& s, const QString& why) {
-    const bool news = !why.isEmpty() && !s.ledgers.failing;
-    s.ledgers.failing = !why.isEmpty();
-    if (!why.isEmpty())
-        s.ledgers.text.clear(); // it is tried again after the next play
-    if (news && !s.leaving)
+    const bool before = std::exchange(s.ledgers.failing, !why.isEmpty());
+    if (s.ledgers.failing && !before && !s.leaving) // it is tried again after each play, which changes them
         note_unsaved(s.world.data, why);
 }
 

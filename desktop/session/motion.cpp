@@ -21,12 +21,9 @@ screenview* view_of(session& s, screen what) {
     return what == screen::main ? &s.window->main_view() : &s.window->board_view();
 }
 
-int picture_ms() {
-    const double rate = QGuiApplication::primaryScreen()->refreshRate();
-    return std::clamp(static_cast<int>(1000 / std::max(rate, 1.0)), 6, 33);
-}
-
 } // namespace
+
+int picture_ms(double rate) { return std::clamp(static_cast<int>(1000 / std::max(rate, 1.0)), 6, 33); }
 
 void start_motion(session& s) {
     s.picture.setSingleShot(true);
@@ -46,10 +43,8 @@ void move_on(session& s) {
         if (screenview* view = view_of(s, p.where))
             view->repaint_area(p.area);
     s.show.patches.clear();
-    if (next < 0)
-        s.picture.stop();
-    else
-        s.picture.start(std::max(next, picture_ms()));
+    if (next >= 0)
+        s.picture.start(std::max(next, picture_ms(QGuiApplication::primaryScreen()->refreshRate())));
 }
 
 } // namespace hustle::desktop

@@ -12,5 +12,7 @@ void start_motion(session&);
 void take_in_motion(session&);
 // Moves everything on to now, has the views paint what looks different, and waits for the next picture.
 void move_on(session&);
+// Between two pictures of a display that shows so many a second.
+int picture_ms(double rate);
 
 } // namespace hustle::desktop

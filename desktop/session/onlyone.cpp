@@ -46,8 +46,8 @@ second ask_second(bool first_is_deaf) {
     dress(box, "Hoard Hustle");
     if (first_is_deaf)
         box.setText("Hoard Hustle is open already, and does not answer.");
-    box.setInformativeText("Two machines cannot save into the same files. You can go to the one that is "
-                           "open, or play here without saving anything.");
+    add_plain(box, "Two machines cannot save into the same files. You can go to the one that is open, or "
+                   "play here without saving anything.");
     const QPushButton* const front = box.addButton("&Go to It", QMessageBox::AcceptRole);
     const QPushButton* const unsaved = box.addButton("&Play without Saving", QMessageBox::ActionRole);
     box.setEscapeButton(box.addButton(QMessageBox::Cancel));

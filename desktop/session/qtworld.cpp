@@ -107,7 +107,7 @@ bool qtworld::box(const message& m) {
     box.setIcon(icon_of(m.look));
     for (const cost_row& r : costs)
         if (r.title == m.title && m.yes_or_no)
-            box.setInformativeText(QString::fromUtf8(r.cost));
+            add_plain(box, QString::fromUtf8(r.cost));
     if (m.yes_or_no) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(QMessageBox::No);
@@ -196,15 +196,22 @@ void qtworld::browse(page which) {
 bool qtworld::system_info() { return show_system_info(data); }
 
 std::string qtworld::currency(float amount) {
-    // A system without a country of its own ("C") plays in pounds, as the machine's home does.
     const QLocale system = QLocale::system();
-    const bool at_home = system.language() == QLocale::C || (system.language() == QLocale::English &&
-                                                             system.territory() == QLocale::UnitedKingdom);
-    if (at_home) // as a panel script tells it, which a replay of this session must
-        return std::string(std::string_view(uk_currency(amount)));
-    std::string told = system.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
-    record_amount(s->record, told);
+    std::string told = amount_as_told(system, amount);
+    if (!plays_in_pounds(system))
+        record_amount(s->record, told);
     return told;
+}
+
+bool plays_in_pounds(const QLocale& place) {
+    return place.language() == QLocale::C ||
+           (place.language() == QLocale::English && place.territory() == QLocale::UnitedKingdom);
+}
+
+std::string amount_as_told(const QLocale& place, float amount) {
+    if (plays_in_pounds(place)) // as a panel script tells it, which a replay of this session must
+        return std::string(std::string_view(uk_currency(amount)));
+    return place.toCurrencyString(static_cast<double>(amount), {}, 2).toStdString();
 }
 
 void qtworld::exit() { QCoreApplication::exit(0); }

@@ -3,6 +3,7 @@
 
 #include "panel/world.h"
 
+#include <QLocale>
 #include <QString>
 
 #include <array>
@@ -42,6 +43,10 @@ struct qtworld : world {
 
 // Finds the folders and the generator's first state: HUSTLE_SEED where it is set, else chance.
 void prepare_world(qtworld&);
+// A system without a country of its own ("C") plays in pounds, as the machine's home does.
+bool plays_in_pounds(const QLocale&);
+// An amount in the words of a country.
+std::string amount_as_told(const QLocale&, float amount);
 // Whether a stored file of ours may be written.
 bool may_write(const qtworld&, store);
 // Tells the player at the start where nothing can be saved.

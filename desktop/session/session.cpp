@@ -66,24 +66,18 @@ void deliver_due(session& s) {
 
 // What can wait until the player sees something.
 void after_first_frame(session& s) {
-    if (s.watched != nullptr) { // it has a clock of its own
-        watch_for_the_end(s);
-        open_ears(s.world);
-        set_loudness(s);
-        QApplication::setWindowIcon(program_icon());
-        return;
-    }
     if (s.held > 0) { // a box stands open: later
         QTimer::singleShot(100, &s.wake, [&s] { after_first_frame(s); });
         return;
     }
+    watch_for_the_end(s);
+    open_ears(s.world);
+    QApplication::setWindowIcon(program_icon());
+    if (s.watched != nullptr) // it has a clock of its own
+        return;
     s.started = true;
     s.clock.behind = s.real.elapsed() - s.g.p.now;
     begin_ledgers(s);
-    watch_for_the_end(s);
-    open_ears(s.world);
-    set_loudness(s);
-    QApplication::setWindowIcon(program_icon());
     draw_ahead(s);
     arm(s);
     tell_if_unwritable(s.world);

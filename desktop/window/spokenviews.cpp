@@ -24,8 +24,6 @@ constexpr int listen_ms = 125;
 class spoken_button : public QPushButton {
 public:
     spoken_button(screenview& owner, element e) : QPushButton(&owner), view(owner), id(e) {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setFocusPolicy(Qt::TabFocus);
         if (row(e).what == kind::push)
             setText(QString::fromUtf8(row(e).text.data(),
                                       static_cast<qsizetype>(row(e).text.size()))); // its access key
@@ -97,7 +95,8 @@ void listen(spoken_views& views, screenview& view) {
         }
         if (now - v.since < stands_still_ms)
             return false;
-        v.child->setAccessibleName(v.coming);
+        if (v.child->accessibleName() != v.coming) // it may have come back to what it was
+            v.child->setAccessibleName(v.coming);
         v.pending = false;
         return true;
     });

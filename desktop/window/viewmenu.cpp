@@ -71,12 +71,10 @@ void add_volume(QMenu& menu, session& s) {
         QObject::connect(action, &QAction::triggered, volume, [&s, percent] {
             s.view.volume = percent;
             save_view_settings(s.view);
-            set_loudness(s);
         });
     }
     volume->addSeparator();
-    add_switch(*volume, s, "&Mute", &view_settings::muted, [&s] {
-        set_loudness(s);
+    add_switch(*volume, s, "&Mute", &view_settings::muted, [] {
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
 }
 
@@ -102,9 +100,9 @@ void ask_about_flashing(session& s) {
     dress(box, "Before you play");
     box.setIcon(QMessageBox::Question);
     box.setText("Hoard Hustle flashes: lamps and pictures go on and off several times a second.");
-    box.setInformativeText("This can hurt people with photosensitive epilepsy. With reduced flashing the "
-                           "same lamps glow steadily or change slowly, and the game is the same.\n\n"
-                           "You can change this at any time in the View menu.");
+    add_plain(box, "This can hurt people with photosensitive epilepsy. With reduced flashing the same lamps "
+                   "glow steadily or change slowly, and the game is the same.\n\n"
+                   "You can change this at any time in the View menu.");
     QPushButton* reduce = box.addButton("&Reduce flashing", QMessageBox::AcceptRole);
     QPushButton* full = box.addButton("&Flash as the real machine does", QMessageBox::RejectRole);
     box.setDefaultButton(reduce);

@@ -5,10 +5,13 @@
 #include "desktop/session/session.h"
 #include "desktop/window/mainwindow.h"
 
+#include <gtest/gtest.h>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 
 namespace hustle::desktop {
@@ -17,9 +20,8 @@ namespace hustle::desktop {
 struct program {
     QTemporaryDir folder;
     session s;
-    QStringList told;  // the boxes so far
-    QStringList costs; // what a Yes in them costs
-    Qt::TextFormat costs_format = Qt::AutoText;
+    QStringList told;       // the boxes so far
+    QStringList costs;      // what a Yes in them costs
     std::string recorded;   // the session's file while the last one stood
     QString button = "&OK"; // what is clicked in the next ones
     QTimer hand;            // of a player who answers every box
@@ -32,14 +34,25 @@ struct program {
     }
     ~program() { end_session(s); }
 
+    // A box is dressed, takes no text for markup, and leads back to the safe answer.
+    static void is_fit_for_all(const QMessageBox& box) {
+        EXPECT_FALSE(box.windowTitle().isEmpty() || box.styleSheet().isEmpty()) << box.text().toStdString();
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        if (const auto* const more = box.findChild<QLabel*>("qt_msgbox_informativelabel")) {
+            EXPECT_EQ(more->textFormat(), Qt::PlainText) << more->text().toStdString();
+        }
+        EXPECT_TRUE(box.buttons().size() == 1 || box.escapeButton() != nullptr) << box.text().toStdString();
+        const QAbstractButton* const no = box.button(QMessageBox::No);
+        const QAbstractButton* const preferred = box.defaultButton();
+        EXPECT_TRUE(no == nullptr || (box.escapeButton() == no && preferred == no));
+    }
     void answer() {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr)
             return;
+        is_fit_for_all(*box);
         told << box->text();
         costs << box->informativeText();
-        if (const auto* more = box->findChild<QLabel*>("qt_msgbox_informativelabel"))
-            costs_format = more->textFormat();
         recorded = stored("session.txt");
         for (QAbstractButton* b : box->buttons())
             if (b->text() == button)
