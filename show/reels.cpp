@@ -19,7 +19,7 @@ constexpr double bounce = 0.13;        // stops that a reel runs too far
 constexpr double step_ms = 90;         // one stop further, by a nudge
 constexpr double step_bounce = 0.05;
 constexpr double smear = 16; // nothing can be told apart: nothing flickers
-constexpr double two_pi = 6.283185307179586;
+constexpr double pi = 3.141592653589793;
 
 bool is_frame(art a) { return a >= art::effect1 && a <= art::effect4; }
 
@@ -58,15 +58,17 @@ void settle(reel_motion& r, double target, std::int64_t now, bool reduced) {
     r.now = reel_motion::phase::settles;
     r.to = target;
     r.from = reduced ? 0 : 1 + part;
+    r.steps = false;
     r.since = now;
 }
 
 void step_to(reel_motion& r, double target, std::int64_t now, bool reduced) {
-    const double way = on_strip(r.at - target);
+    const bool next = on_strip(r.at - 1) == target; // whole numbers, where it rests
     r.to = target;
-    if (r.now == reel_motion::phase::rests && way > 0.5 && way < 1.5 && !reduced) {
+    if (r.now == reel_motion::phase::rests && next && !reduced) {
         r.now = reel_motion::phase::settles;
-        r.from = way;
+        r.from = 1;
+        r.steps = true;
         r.since = now;
     } else {
         rest(r);
@@ -74,17 +76,16 @@ void step_to(reel_motion& r, double target, std::int64_t now, bool reduced) {
 }
 
 // Runs on at its speed, goes a little too far and comes back.
-double settling(double from, double ms, bool& over) {
-    const bool stepping = from < 1.0001 && from > 0.9999;
-    const double whole = stepping ? step_ms : settle_ms;
-    const double run = std::min(stepping ? 0.6 * step_ms : from / full_speed, whole - 20);
+double settling(const reel_motion& r, double ms, bool& over) {
+    const double whole = r.steps ? step_ms : settle_ms;
+    const double run = r.steps ? 0.6 * step_ms : r.from / full_speed;
     over = ms >= whole;
     if (over)
         return 0;
     if (ms < run)
-        return from * (1 - ms / run);
+        return r.from * (1 - ms / run);
     const double u = (ms - run) / (whole - run);
-    return -(stepping ? step_bounce : bounce) * std::sin(two_pi / 2 * std::sqrt(u)) * (1 - 0.3 * u);
+    return -(r.steps ? step_bounce : bounce) * std::sin(pi * std::sqrt(u)) * (1 - 0.3 * u);
 }
 
 } // namespace
@@ -144,9 +145,9 @@ bool advance_reel(stage& s, const game& g, int which, std::int64_t now) {
         return !s.reduced;
     }
     bool over = false;
-    const double ahead = settling(r.from, ms, over);
+    const double ahead = settling(r, ms, over);
     r.at = on_strip(r.to + ahead);
-    r.blur = ahead > 0 && r.from > 1.0001 ? full_speed * eye_ms : 0;
+    r.blur = ahead > 0 && !r.steps ? full_speed * eye_ms : 0;
     if (over || s.reduced)
         rest(r);
     add_patch(s, g.p, reel_element(which));

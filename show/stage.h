@@ -33,6 +33,7 @@ struct reel_motion {
     std::int64_t moved = 0;
     double from = 0; // position at `since`, counted from the target upwards
     double to = 0;
+    bool steps = false; // it settles by one stop, at a nudge
 };
 
 // A line whose text runs on to the left: `columns` columns of dots (six to a letter) beyond what
