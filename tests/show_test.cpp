@@ -1,15 +1,20 @@
 // What the eye sees beyond the panel: reels that come to rest in time, a belt that never lags, lamps
 // that never flash too fast.
+#include "art/lamplooks.h"
 #include "board/board.h"
 #include "core/bank.h"
 #include "core/reels.h"
 #include "panel/sheet.h"
+#include "show/hints.h"
 #include "show/motions.h"
 #include "show/places.h"
 #include "show/spokennames.h"
 #include "tests/showgame.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <vector>
 
 using namespace hustle;
@@ -133,6 +138,52 @@ TEST_F(Show, PlacesAreEven) {
     for (int n = 2; n <= 10; ++n)
         EXPECT_EQ(place(nth(element::Highscore_one, n)).top - place(nth(element::Highscore_one, n - 1)).top,
                   pitch);
+}
+
+// A lit look of what a name tells: its light picture, or the colours of a lit lamp.
+void light(panel& p, const element_row& r) {
+    std::string wanted(name(at(p, r.id).picture));
+    if (const std::size_t dark = wanted.find("dark"); dark != std::string::npos)
+        wanted.replace(dark, 4, "light");
+    for (std::size_t a = 0; a < art_count; ++a)
+        if (name(static_cast<art>(a)) == wanted)
+            set_picture(p, r.id, static_cast<art>(a));
+    if (is_lamp(r))
+        set_fore(p, r.id, r.back == 0 ? 0xFFFFFF : 0x00FFFF);
+}
+
+// Each name that a listener meets, as all stands dark and where light changes it, against the list that is
+// kept
+// (`HUSTLE_KEEP_NAMES=1 hustle_tests --gtest_filter='*Kept*'` keeps it anew: read it then).
+TEST_F(Show, NamesAreThoseOfTheListThatIsKept) {
+    std::ostringstream all;
+    for (const screen_row& where : screen_rows()) {
+        open_screen(g.p, where.id);
+        for (const element_row& r : elements_of(where.id)) {
+            const std::string dark = spoken_name(g, r.id);
+            light(g.p, r);
+            const std::string lit = spoken_name(g, r.id);
+            if (r.what != kind::entry && !(dark + lit).empty())
+                all << where.name << '.' << r.name << ": " << dark << (lit == dark ? "" : " | " + lit)
+                    << '\n';
+        }
+    }
+    for (art a = art::dice1pic; a <= art::dice6pic; a = nth(a, 2)) {
+        set_picture(g.p, element::feature_dicepic, a);
+        all << name(a) << ": " << spoken_name(g, element::feature_dicepic) << '\n';
+    }
+    if (std::getenv("HUSTLE_KEEP_NAMES") != nullptr)
+        std::ofstream(SPOKEN) << all.str();
+    std::ostringstream kept;
+    kept << std::ifstream(SPOKEN).rdbuf();
+    EXPECT_EQ(all.str(), kept.str());
+}
+
+TEST_F(Show, ThePurseIsInTheMachinesMoney) {
+    g.m.bank = 1.6F;
+    EXPECT_EQ(bank_label(g), "Bank £1.60");
+    g.m.currency = setting::usd;
+    EXPECT_EQ(bank_label(g), "Bank $1.60");
 }
 
 TEST_F(Show, NamesAreTheWordsThatAListenerNeeds) {
