@@ -48,7 +48,9 @@ int advance_belt(stage& s, const game& g, std::int64_t now) {
     s.belt.columns = columns;
     if (columns == columns_of_letter - 1)
         return -1;
-    return static_cast<int>((columns + 1) * whole / columns_of_letter - ms) + 1;
+    const std::int64_t next =
+        ((columns + 1) * whole + columns_of_letter - 1) / columns_of_letter; // rounded up
+    return static_cast<int>(next - ms);
 }
 
 } // namespace hustle

@@ -46,31 +46,6 @@ TEST_F(Show, ReelsRunOutIntoTheWrittenStopWithinTheTimeAndAHeldOneStands) {
     EXPECT_EQ(advance(s, g, g.p.now), -1) << "nothing moves, so no picture is wanted";
 }
 
-TEST_F(Show, TheBeltRunsForwardFromWhatWasWrittenAndNeverBehind) {
-    open_board("feature", 1);
-    run(2000);
-    g.b.featurerung = 2;
-    featurepress(g);
-    int furthest = 0, moves = 0;
-    run(6000, [&] {
-        if (g.b.beltphase != 1 || caption(g.p, element::feature_displayline) != g.b.beltwindow)
-            return;
-        const int now = g.b.beltstep * 6 + s.belt.columns;
-        EXPECT_GE(now, furthest);
-        moves += now > furthest;
-        furthest = now;
-        stage later = s;
-        if (const int wait = advance_belt(later, g, g.p.now); wait > 0) {
-            advance_belt(later, g, g.p.now + wait);
-            EXPECT_GT(later.belt.columns, s.belt.columns) << "a picture was wanted for nothing";
-        }
-    });
-    EXPECT_GT(moves, 100); // dot by dot, not letter by letter
-    ASSERT_TRUE(key(space));
-    run(9000);
-    EXPECT_EQ(s.belt.columns, 0);
-}
-
 // A lamp is told looks at random times; whatever it is told, the eye gets no fourth flash in a second.
 TEST_F(Show, HeldLampsNeverFlashTooFastAndEndAsTheyWereTold) {
     set_reduced(s, g, true);
