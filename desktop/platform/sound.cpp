@@ -67,11 +67,11 @@ void run(const std::stop_token& stop, const std::string& folder, const std::stri
         tell("no sound device", true);
         return;
     }
-    tell(mixer->describe(), false);
     {
         const std::scoped_lock held(shared.lock);
         mixer->volume(shared.volume);
     }
+    tell(mixer->describe(), false); // who waits for this finds it at the volume that was told before
     std::vector<order> taken;
     while (!stop.stop_requested()) {
         {

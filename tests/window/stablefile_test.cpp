@@ -168,6 +168,10 @@ TEST(StableFile, IsNoLinkNoPipeAndNoFolder) {
     EXPECT_EQ(save_stored(f.path, "game.dat", now), "");
     EXPECT_EQ(text_of(elsewhere / "target"), before) << "the link was followed";
     EXPECT_EQ(text_of(f / "game.dat"), now);
+    ASSERT_EQ(save_stored(f.path, "longest", std::string(16385, 'x')),
+              ""); // a byte behind what is read at once
+    EXPECT_EQ(read_stored(f.path, "longest").text.size(), 16385);
+    fs::remove(f / "longest");
 
     using enum stored_text::state;
     ASSERT_EQ(::mkfifo((f / "pipe").c_str(), 0600), 0);

@@ -105,6 +105,28 @@ TEST(Session, ComesToTheFrontWithTheWindowThatWasThere) {
     EXPECT_FALSE(guide->isMinimized());
 }
 
+// Within the screen with what a window manager may draw around it, wherever it stood.
+TEST(View, AWindowStaysOnItsScreen) {
+    program p;
+    p.start();
+    mainwindow& window = *p.s.window;
+    const QRect room = window.screen()->availableGeometry();
+    const auto whole = [&] { return QRect(window.pos(), window.size() + QSize(12, 44)); };
+    EXPECT_LE((whole().center() - room.center()).manhattanLength(), 2);
+    const QSize main = window.main_view().size();
+    EXPECT_EQ(window.size() - main, window.bars(window.width())) << "nothing but the bars stands around main";
+    for (const QPoint place : {QPoint(-300, -300), QPoint(700, 700)}) {
+        window.move(place);
+        zoom_main_window(window, 0.75);
+        QRect wanted(room.topLeft(), whole().size());
+        if (place.x() > 0)
+            wanted.moveBottomRight(room.bottomRight());
+        EXPECT_EQ(whole(), wanted);
+    }
+    zoom_main_window(window, 3);
+    EXPECT_EQ(whole(), room);
+}
+
 TEST(View, AWindowOfALargerScreenComesUpOnThisOne) {
     view_settings kept;
     {
