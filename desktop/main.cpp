@@ -93,7 +93,8 @@ int watch_a_script(hustle::desktop::session& session, const std::string& path) {
     const int result = QApplication::exec();
     stop_watching(watched);
     end_session(session);
-    return result;
+    std::fputs(watched.failed.text.c_str(), stderr);
+    return result != 0 ? result : watched.status;
 }
 
 // One program plays on the files of a folder. False where this one has nothing to do.
@@ -154,5 +155,5 @@ int main(int argc, char** argv) {
     hustle::desktop::start_session(session);
     const int result = session.g.p.over ? 0 : QApplication::exec();
     hustle::desktop::end_session(session);
-    return result;
+    return session.world.lost ? 1 : result;
 }

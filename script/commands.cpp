@@ -41,6 +41,7 @@ struct command_row {
 constexpr std::size_t any = ~std::size_t{0};
 constexpr long long a_day = 86'400;
 constexpr long long longest_run = 86'400'000; // ms, a day
+constexpr std::size_t longest_text = 4096;    // bytes, of what may come to be painted
 
 bool next_line(runner& r, std::string_view& line) {
     if (r.rest.empty())
@@ -91,6 +92,12 @@ input input_on(input::kind what, screen s) {
     return in;
 }
 
+void check_length(std::string_view what, std::string_view text) {
+    if (text.size() > longest_text)
+        throw script_error(std::string(what) + " takes a text of at most " + std::to_string(longest_text) +
+                           " bytes");
+}
+
 void file(runner& r, const words& w) {
     before_boot(r, "file");
     const store which = w[0].text == name(store::game_dat) ? store::game_dat : store::hscore_dat;
@@ -106,6 +113,7 @@ void file(runner& r, const words& w) {
             r.s.w.file(which) = {true, std::move(text)};
             return;
         }
+        check_length("a line of a stored file", line);
         text.append(line).append("\r\n");
     }
     r.line = first;
@@ -136,6 +144,7 @@ void boot(runner& r, const words&) {
 
 void set(runner& r, const words& w) {
     const cell& c = r.s.known.find(w[0].text);
+    check_length(c.name, w[1].text);
     if (!c.store)
         throw script_error(c.name + " can only be read");
     const value to = read_value(c.where, c.name, w[1], false);
@@ -176,6 +185,7 @@ void type(runner& r, const words& w) {
         throw script_error(full_name(e) + " is no text box");
     if (!w[1].quoted)
         throw script_error("type takes a text in double quotes, not " + written(w[1]));
+    check_length("type", w[1].text);
     input in = input_on(input::kind::type, e);
     in.text = w[1].text;
     r.s.apply("type " + full_name(e), in);

@@ -8,6 +8,7 @@ namespace hustle::script {
 namespace {
 
 constexpr unsigned bit(kind k) { return 1U << static_cast<unsigned>(k); }
+constexpr int farthest = 100'000; // twips from the top: a dozen screens
 constexpr unsigned pictures = bit(kind::picture) | bit(kind::button) | bit(kind::clicked);
 constexpr unsigned boxes = bit(kind::textbox);
 constexpr unsigned placed = ~bit(kind::entry);
@@ -109,9 +110,12 @@ void names::add_elements(panel& p) {
     for (std::size_t i = 0; i < element_count; ++i) {
         const auto e = static_cast<element>(i);
         for (const property_row& property : properties)
-            if ((property.kinds & bit(row(e).what)) != 0)
+            if ((property.kinds & bit(row(e).what)) != 0) {
                 cells.push_back({full_name(e) + "." + std::string(property.name), property.where(at(p, e)),
                                  [&p, e, store = property.store](const value& v) { store(p, e, v); }});
+                if (property.name == "top")
+                    cells.back().bears = {-farthest, farthest};
+            }
     }
 }
 

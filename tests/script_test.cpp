@@ -200,6 +200,18 @@ TEST(Script, KeepsLogsFilesAndAnswers) {
               false);
 }
 
+TEST(Script, TakesNoTextThatNobodyCouldPaint) {
+    const std::string fits(4096, 'W'), longer(4097, 'W');
+    for (const std::string& line :
+         {"set main.numberone.caption \"" + longer + "\"", "type Entername.Text1 \"" + longer + "\"",
+          "file hscore.dat\n" + longer + "\nend"})
+        EXPECT_NE(run(line).err.find("a text of at most 4096 bytes"), std::string::npos)
+            << line.substr(0, 30);
+    EXPECT_EQ(run("set main.numberone.caption \"" + fits + "\"").status, 0);
+    EXPECT_EQ(run("set main.start.top -100001").err,
+              "s:1: main.start.top takes a number from -100000 to 100000, not -100001\n");
+}
+
 // A sound every millisecond for a day, as a stranger's script may ask for.
 TEST(Script, WritesALogNoFurtherThanItsLength) {
     std::ostringstream unused;

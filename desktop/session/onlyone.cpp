@@ -4,15 +4,30 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QThread>
 
 namespace hustle::desktop {
 
 namespace {
 
 constexpr int answer_ms = 2000;
+constexpr int writing_ms = 500; // that a lock may stand empty while its program writes it
+
+// Whether somebody says in a lock that it is theirs.
+bool has_owner(const QLockFile& lock) {
+    qint64 process = 0;
+    QString host, program;
+    for (int waited = 0; waited < writing_ms; waited += 50) {
+        if (lock.getLockInfo(&process, &host, &program))
+            return true;
+        QThread::msleep(50);
+    }
+    return false;
+}
 
 // The same for all who play on one folder, and short enough for a socket.
 QString ear_name(const QString& folder) {
@@ -24,11 +39,16 @@ QString ear_name(const QString& folder) {
 
 bool claim_folder(only_one& o, const QString& folder) {
     const QString place = folder + "/hoardhustle.lock";
+    if (QFileInfo(place).isSymLink()) // ours is none
+        QFile::remove(place);
     if (QFileInfo::exists(place) && !QFileInfo(place).isFile())
         return true; // a pipe would never open
     o.lock = std::make_unique<QLockFile>(place);
     o.lock->setStaleLockTime(0); // never by its age: only with its process
-    return o.lock->tryLock(0) || o.lock->error() != QLockFile::LockFailedError;
+    if (o.lock->tryLock(0) || o.lock->error() != QLockFile::LockFailedError)
+        return true;
+    // A power cut can leave an empty one, which no process ever gives back.
+    return !has_owner(*o.lock) && QFile::remove(place) && o.lock->tryLock(0);
 }
 
 void listen_for_calls(only_one& o, const QString& folder, const std::function<void(wish)>& called) {

@@ -123,6 +123,7 @@ bool qtworld::box(const message& m) {
 
 void qtworld::wait(int ms) {
     hold_machine hold(*s);
+    record_box(s->record); // nothing is written while the machine is held
     QEventLoop loop;
     QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
@@ -159,6 +160,7 @@ bool qtworld::write(store file, std::string_view text) {
             return true;
         if (s->leaving) {
             std::fprintf(stderr, "hoardhustle: %s is not saved: %s\n", name(file).data(), why.c_str());
+            lost = true;
             return !(unsaved = true);
         }
         hold_machine hold(*s);
@@ -166,8 +168,10 @@ bool qtworld::write(store file, std::string_view text) {
         hold.release(0);
         if (next.empty())
             return !(unsaved = true);
-        // The place that must not be touched may be chosen again: it is refused again.
-        why = next == folder_of(*this) ? reason_not_to_touch(*this, file) : std::string();
+        // The place that must not be touched may be chosen again, by whatever name: it is refused again.
+        const bool same = QFileInfo(QFile::decodeName(next.c_str())).canonicalFilePath() ==
+                          QFileInfo(data).canonicalFilePath();
+        why = same ? reason_not_to_touch(*this, file) : std::string();
         folder = next;
     }
 }

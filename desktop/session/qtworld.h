@@ -18,6 +18,7 @@ struct qtworld : world {
     session* s = nullptr;
     QString data;         // folder of the two stored files
     bool unsaved = false; // a save has failed, and the machine is about to tell
+    bool lost = false;    // one has failed at an end from outside, where nobody could be asked
     bool saving = true;   // false: played without saving
     // Why a stored file must not be written over; empty: it may be.
     std::array<std::string, 2> untouchable;

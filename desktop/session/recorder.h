@@ -47,8 +47,8 @@ void record_ticks(recorder&, std::int64_t until);
 // Round an input: before it is applied, and after.
 void record_begun(recorder&, const game&, const input&);
 void record_input(recorder&, const game&);
-// A box opens in an event, and may stand for long: what was before the event goes to the file, and the input
-// that led to the box as a remark.
+// A box opens in an event, and may stand for long, or the machine waits in it: what was before the event goes
+// to the file, and the input that led to the box as a remark.
 void record_box(recorder&);
 // What is new goes to the file, with the hash. Only between two events.
 void flush_recording(recorder&, const game&);

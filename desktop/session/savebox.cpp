@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -20,6 +21,20 @@ void warn(const QString& text, const QString& more) {
     dress(box, "Hoard Hustle");
     add_plain(box, more);
     box.exec();
+}
+
+// Another machine's file may stand in a folder that was chosen.
+bool may_replace(const QString& folder, const QString& file) {
+    if (!QFileInfo::exists(QDir(folder).filePath(file)))
+        return true;
+    QMessageBox box(QMessageBox::Warning, {},
+                    QString("There is a %1 in that folder already. Replace it?").arg(file),
+                    QMessageBox::Yes | QMessageBox::No, box_parent());
+    dress(box, "Hoard Hustle");
+    add_plain(box, QString("What it holds in %1 will be gone.").arg(shown(folder)));
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace
@@ -65,7 +80,7 @@ std::string ask_where_to_save(const QString& folder, const QString& file, const 
             return {};
         const QString chosen =
             QFileDialog::getExistingDirectory(&box, "A folder for " + file, QDir::homePath());
-        if (!chosen.isEmpty())
+        if (!chosen.isEmpty() && may_replace(chosen, file))
             return QFile::encodeName(chosen).toStdString();
     }
 }

@@ -44,7 +44,11 @@ void run_it(watching& w) {
     try {
         script::watch_script(
             w.text, w.name, printed, failed, [&](game& g) { wait_here(w, g, false); },
-            [&](game& g, int) { wait_here(w, g, true); }, [&] { look_for_the_stop(w); });
+            [&](game& g, int status) {
+                w.status = status;
+                wait_here(w, g, true);
+            },
+            [&] { look_for_the_stop(w); });
     } catch (const stop&) {
     }
 }
@@ -69,12 +73,17 @@ void copy_state(game& from, game& to) {
         at(from.p, static_cast<element>(e)).touched = false;
 }
 
-QString state_of(const watching& w, std::int64_t ms, bool ended) {
-    QString text = QString("  %1 s").arg(static_cast<double>(ms) / 1000, 0, 'f', 2);
-    if (ended)
+// The time, and at the end what did not hold: as much as there is room for, all of it where the mouse rests.
+void tell_state(const session& s, const watching& w) {
+    QString text = QString("  %1 s").arg(static_cast<double>(s.g.p.now) / 1000, 0, 'f', 2);
+    if (w.ended) {
         text += "   the script has ended";
-    const std::string wrong = ended ? w.failed.text : std::string();
-    return wrong.empty() ? text : text + ": " + QString::fromStdString(wrong).simplified();
+        if (const QString wrong = QString::fromStdString(w.failed.text).simplified(); !wrong.isEmpty())
+            text += ": " + wrong;
+        w.told->setToolTip(QString::fromStdString(w.failed.text).toHtmlEscaped());
+    }
+    const int room = std::max(100, s.window->width() - w.told->x() - 30);
+    w.told->setText(w.told->fontMetrics().elidedText(text, Qt::ElideRight, room));
 }
 
 void show_state(session& s, watching& w) {
@@ -85,7 +94,7 @@ void show_state(session& s, watching& w) {
     play_new_sounds(static_cast<script::scriptworld&>(w.waits->w).sounds);
     refresh(s);
     if (w.told != nullptr)
-        w.told->setText(state_of(w, s.g.p.now, w.ended));
+        tell_state(s, w);
 }
 
 void let_on(watching& w) {

@@ -57,6 +57,7 @@ struct watching {
     bool ended = false;
     bool stopped = false;
     beginning printed, failed; // read once it has ended
+    int status = 0;            // the script's own, once it has ended; see script/commands.h
     std::jthread worker;
 };
 

@@ -17,6 +17,12 @@ namespace {
 constexpr int zooms[] = {50, 75, 100, 125, 150, 200, 300}; // percent of the panel's own size
 constexpr int volumes[] = {100, 75, 50, 25};               // percent
 
+// Where nothing is saved they are another program's.
+void keep_view(const session& s) {
+    if (s.world.saving)
+        save_view_settings(s.view);
+}
+
 // A switch of the settings as an entry with a tick; `after` carries a change out.
 template <class After>
 QAction* add_switch(QMenu& menu, session& s, const char* text, bool view_settings::*which,
@@ -26,7 +32,7 @@ QAction* add_switch(QMenu& menu, session& s, const char* text, bool view_setting
     action->setChecked(s.view.*which);
     QObject::connect(action, &QAction::toggled, &menu, [&s, which, after](bool on) {
         s.view.*which = on;
-        save_view_settings(s.view);
+        keep_view(s);
         after();
     });
     return action;
@@ -70,7 +76,7 @@ void add_volume(QMenu& menu, session& s) {
         group->addAction(action);
         QObject::connect(action, &QAction::triggered, volume, [&s, percent] {
             s.view.volume = percent;
-            save_view_settings(s.view);
+            keep_view(s);
         });
     }
     volume->addSeparator();
@@ -90,7 +96,11 @@ void fill_view_menu(QMenu& menu, mainwindow& window, session& s) {
     add_switch(menu, s, "&Hints", &view_settings::hints, [&window] { window.show_hints(); });
     menu.addSeparator();
     add_volume(menu, s);
-    add_switch(menu, s, "Recor&d the Session", &view_settings::recording, [] {});
+    QAction* const record = add_switch(menu, s, "Recor&d the Session", &view_settings::recording, [] {});
+    QObject::connect(&menu, &QMenu::aboutToShow, record, [&s, record] {
+        const bool later = s.view.recording && s.record.file < 0;
+        record->setText(later ? "Recor&d the Session (from the next start)" : "Recor&d the Session");
+    });
 }
 
 void ask_about_flashing(session& s) {

@@ -18,8 +18,9 @@ struct nowhere : std::streambuf {
     std::streamsize xsputn(const char*, std::streamsize n) override { return n; }
 };
 
-long commands = 0;  // that were run
-std::string script; // that runs now
+long commands = 0; // that were run
+// Writes down each script before it runs: of an input that does harm, the last one is what did it.
+const bool keeps = std::getenv("HUSTLE_FUZZ_KEEP") != nullptr;
 
 // The line that ended a script, by the last message.
 long ended_at(const std::string& errors) {
@@ -32,7 +33,9 @@ long ended_at(const std::string& errors) {
 void run_all(const std::uint8_t* bytes, std::size_t size) {
     nowhere sink;
     std::ostream out(&sink);
-    for (script = hustle::fuzz::script_of(bytes, size); !script.empty();) {
+    for (std::string script = hustle::fuzz::script_of(bytes, size); !script.empty();) {
+        if (keeps)
+            std::ofstream("fuzz-failure.txt") << script;
         std::ostringstream errors;
         const bool ended = hustle::script::run_script(script, "fuzz", out, errors) == 2;
         long lines = ended ? ended_at(errors.str()) : -1;
@@ -46,9 +49,7 @@ void run_all(const std::uint8_t* bytes, std::size_t size) {
 } // namespace
 
 #ifdef HUSTLE_FUZZER
-extern "C" void __sanitizer_set_death_callback(void (*)());
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    __sanitizer_set_death_callback([] { std::ofstream("fuzz-failure.txt") << script; });
     std::atexit([] { std::printf("%ld commands\n", commands); });
     return 0;
 }

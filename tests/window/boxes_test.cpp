@@ -98,6 +98,7 @@ TEST(Session, LeavesThoughNothingCanBeSaved) {
     p.until_over();
     EXPECT_NE(::testing::internal::GetCapturedStderr().find("game.dat is not saved: "), std::string::npos);
     EXPECT_EQ(p.told.size(), 1) << "nobody is there to answer";
+    EXPECT_TRUE(p.s.world.lost) << "and whoever started it learns so";
     EXPECT_TRUE(notes<QMessageBox>().isEmpty());
 }
 

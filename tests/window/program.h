@@ -24,6 +24,7 @@ struct program {
     QStringList costs;      // what a Yes in them costs
     std::string recorded;   // the session's file while the last one stood
     QString button = "&OK"; // what is clicked in the next ones
+    QString otherwise;      // in one that has no such button; empty: it is closed
     QTimer hand;            // of a player who answers every box
 
     program() {
@@ -56,6 +57,9 @@ struct program {
         recorded = stored("session.txt");
         for (QAbstractButton* b : box->buttons())
             if (b->text() == button)
+                return b->click();
+        for (QAbstractButton* b : box->buttons())
+            if (b->text() == otherwise)
                 return b->click();
         box->reject();
     }

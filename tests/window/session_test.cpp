@@ -187,6 +187,8 @@ TEST(Session, SavesElsewhereWhereThePlayerWishes) {
     QDir(p.folder.path()).mkdir("game.dat");
     const QString other = p.folder.filePath("other");
     QDir().mkdir(other);
+    ASSERT_EQ(save_stored(other.toStdString(), "game.dat", "another machine's"), "");
+    p.otherwise = "&No";
     p.start();
     p.button = "Save &Elsewhere...";
     bool refused = false;
@@ -197,6 +199,10 @@ TEST(Session, SavesElsewhereWhereThePlayerWishes) {
             return;
         if (!std::exchange(refused, true)) // the box asks again
             return dialog->reject();
+        if (!p.told.filter("Replace it?").isEmpty()) { // asked once, and not replaced
+            EXPECT_EQ(p.stored("other/game.dat"), "another machine's");
+            p.otherwise = "&Yes";
+        }
         dialog->selectFile(other);
         QMetaObject::invokeMethod(dialog, "accept");
     });
@@ -288,6 +294,16 @@ TEST(Session, IsTheOnlyOneOnItsFiles) {
     const QTemporaryDir other;
     ASSERT_EQ(::mkfifo(other.filePath("hoardhustle.lock").toUtf8().constData(), 0600), 0);
     EXPECT_TRUE(claim_folder(second, other.path())) << "and did not wait for a writer";
+    for (const char* const left : {"", "nonsense"}) { // by a power cut
+        const QTemporaryDir again;
+        QFile lock(again.filePath("hoardhustle.lock"));
+        ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+        lock.write(left);
+        lock.close();
+        only_one after;
+        EXPECT_TRUE(claim_folder(after, again.path()));
+        EXPECT_FALSE(claim_folder(second, again.path())) << "and it is ours";
+    }
     const QString socket = QFile::decodeName(first->ear.place);
     EXPECT_TRUE(QFile::exists(socket));
     first.reset();
