@@ -19,6 +19,11 @@ namespace {
 constexpr int picture_ms = 16;
 constexpr double still = 0, fastest = 20;
 
+constexpr const char* bar_style = "QToolBar { background: #1e0a24; border: none; padding: 2px; }"
+                                  "QToolBar QToolButton, QToolBar QLabel { color: #f3e3bd; }"
+                                  "QToolBar QToolButton { padding: 3px 8px; border-radius: 4px; }"
+                                  "QToolBar QToolButton:checked { background: #561a86; color: #fff8e4; }";
+
 struct stop {}; // leaves the script
 
 // On the script's thread: waits until the machine may go on from here.
@@ -106,6 +111,7 @@ void let_on(watching& w) {
 void add_bar(session& s, watching& w) {
     auto* const bar = new QToolBar("Watch", s.window);
     bar->setMovable(false);
+    bar->setStyleSheet(bar_style);
     auto* const speeds = new QActionGroup(bar);
     for (const double speed : {still, 0.25, 1.0, 4.0, fastest}) {
         QAction* const action = bar->addAction(speed == still ? "Still" : QString("%1 x").arg(speed));
