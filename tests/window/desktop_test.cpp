@@ -3,7 +3,6 @@
 #include "art/dotfont.h"
 #include "core/bank.h"
 #include "desktop/platform/readypicture.h"
-#include "desktop/session/motion.h"
 #include "panel/sheet.h"
 #include "show/clock.h"
 #include "show/spokennames.h"
@@ -48,13 +47,6 @@ TEST(Clock, FollowsTheRealOneAndNeverMakesUpForAStall) {
     for (int real = 62'005; real <= 63'000; real += 5)
         after += ticks_at(clock, p, real);
     EXPECT_NEAR(after, 10, 1);
-}
-
-TEST(Clock, PaintsAtTheDisplaysRate) {
-    for (int rate = 31; rate <= 160; ++rate)
-        EXPECT_NEAR(picture_ms(rate), 1000.0 / rate, 1) << rate;
-    for (const auto& [rate, ms] : {std::pair{0.0, 33}, {24.0, 33}, {500.0, 6}})
-        EXPECT_EQ(picture_ms(rate), ms) << rate;
 }
 
 TEST(Clock, GivesAQuickTimerAFewTicksAtATime) {

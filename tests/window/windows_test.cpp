@@ -1,5 +1,6 @@
 // The windows themselves: their sizes and places, which of them is in front, and whose a form is.
 #include "core/upward.h"
+#include "desktop/session/motion.h"
 #include "desktop/window/geometry.h"
 #include "panel/sheet.h"
 #include "screens/events.h"
@@ -180,6 +181,13 @@ TEST(View, TheFirstSizeIsTheLargestStepThatFits) {
     EXPECT_DOUBLE_EQ(zoom({9000, 9000}), 3);
     EXPECT_NEAR(zoom(area_for(0.45)), 0.45, 0.005); // smaller than every step: as it fits
     EXPECT_DOUBLE_EQ(zoom({100, 100}), 0.4);
+}
+
+TEST(View, PaintsAtTheDisplaysRate) {
+    for (int rate = 31; rate <= 160; ++rate)
+        EXPECT_NEAR(picture_ms(rate), 1000.0 / rate, 1) << rate;
+    for (const auto& [rate, ms] : {std::pair{0.0, 33}, {24.0, 33}, {500.0, 6}})
+        EXPECT_EQ(picture_ms(rate), ms) << rate;
 }
 
 } // namespace
