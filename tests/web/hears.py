@@ -40,6 +40,13 @@ TAP = """
   };"""
 
 
+def listen(b):
+    """Starts the page with its meter, and waits until a first touch can be heard."""
+    b.command("Page.addScriptToEvaluateOnNewDocument", source=TAP)
+    b.start_as_player("?seed=3")
+    b.until("performance.getEntriesByName('waves').length > 0 && hustle.get('main.start.enabled')")
+
+
 def seconds_of(name):
     with wave.open(str(SOUNDS / name)) as file:
         return file.getnframes() / file.getframerate()
@@ -49,9 +56,7 @@ def sounds():
     """The first touch's own wave is heard, every wave is the one that the machine told, and Sound Off
     is silence."""
     with Browser() as b:
-        b.command("Page.addScriptToEvaluateOnNewDocument", source=TAP)
-        b.start_as_player("?seed=3")
-        b.until("performance.getEntriesByName('waves').length > 0 && hustle.get('main.start.enabled')")
+        listen(b)
         before = len(b.get("sounds").split())
         b.key(" ", "Space", 32)
         b.until("heard.all > 0.01")
@@ -92,8 +97,7 @@ def tune():
 def stalls():
     """A hidden tab stands still, tune and all, and nothing is made up for when it is seen again."""
     with Browser() as b:
-        b.command("Page.addScriptToEvaluateOnNewDocument", source=TAP)
-        b.start_as_player("?seed=3")
+        listen(b)
         b.key(" ", "Space", 32)
         b.until("heard.all > 0.01")
         stood, real = b.run("heard.hide(true); return [hustle.now(), performance.now()]")
