@@ -2,6 +2,7 @@
 
 #include "desktop/platform/sound.h"
 #include "desktop/session/session.h"
+#include "desktop/window/cabinetcolours.h"
 #include "desktop/window/mainwindow.h"
 #include "script/commands.h"
 #include "script/scriptworld.h"
@@ -19,10 +20,10 @@ namespace {
 constexpr int picture_ms = 16;
 constexpr double still = 0, fastest = 20;
 
-constexpr const char* bar_style = "QToolBar { background: #1e0a24; border: none; padding: 2px; }"
-                                  "QToolBar QToolButton, QToolBar QLabel { color: #f3e3bd; }"
+constexpr const char* bar_style = "QToolBar { background: @ground; border: none; padding: 2px; }"
+                                  "QToolBar QToolButton, QToolBar QLabel { color: @cream; }"
                                   "QToolBar QToolButton { padding: 3px 8px; border-radius: 4px; }"
-                                  "QToolBar QToolButton:checked { background: #561a86; color: #fff8e4; }";
+                                  "QToolBar QToolButton:checked { background: @violet; color: @ivory; }";
 
 struct stop {}; // leaves the script
 
@@ -111,7 +112,7 @@ void let_on(watching& w) {
 void add_bar(session& s, watching& w) {
     auto* const bar = new QToolBar("Watch", s.window);
     bar->setMovable(false);
-    bar->setStyleSheet(bar_style);
+    bar->setStyleSheet(in_cabinet_colours(bar_style));
     auto* const speeds = new QActionGroup(bar);
     for (const double speed : {still, 0.25, 1.0, 4.0, fastest}) {
         QAction* const action = bar->addAction(speed == still ? "Still" : QString("%1 x").arg(speed));

@@ -1,5 +1,7 @@
 #include "desktop/window/boxes.h"
 
+#include "desktop/window/cabinetcolours.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -9,9 +11,9 @@ namespace hustle::desktop {
 namespace {
 
 constexpr const char* box_style =
-    "QMessageBox { background: #1e0a24; }"
-    "QMessageBox QLabel { color: #f3e3bd; }"
-    "QMessageBox QPushButton { color: #fff8e4; border: 1px solid #d4b060; border-radius: 6px;"
+    "QMessageBox { background: @ground; }"
+    "QMessageBox QLabel { color: @cream; }"
+    "QMessageBox QPushButton { color: @ivory; border: 1px solid #d4b060; border-radius: 6px;"
     " padding: 5px 18px; min-width: 56px;"
     " background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #8460a8, stop:1 #4a3068); }"
     "QMessageBox QPushButton:hover { border-color: #fff0c0; }"
@@ -23,7 +25,7 @@ constexpr const char* box_style =
 void dress(QMessageBox& box, const QString& title) {
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText); // a folder may be called anything
-    box.setStyleSheet(box_style);
+    box.setStyleSheet(in_cabinet_colours(box_style));
 }
 
 void add_plain(QMessageBox& box, const QString& more) {

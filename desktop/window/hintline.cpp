@@ -1,5 +1,6 @@
 #include "desktop/window/hintline.h"
 
+#include "desktop/window/cabinetcolours.h"
 #include "show/hints.h"
 
 #include <QHBoxLayout>
@@ -12,8 +13,8 @@ namespace {
 
 constexpr int least_height = 26, most_height = 52; // pixels
 constexpr int widths_to_height = 40;               // it grows with the machine above it
-constexpr const char* look = "QWidget { background: #1e0a24; }"
-                             "QLabel { color: #f3e3bd; padding: 0 12px; }";
+constexpr const char* look = "QWidget { background: @ground; }"
+                             "QLabel { color: @cream; padding: 0 12px; }";
 
 QLabel* make_label(QWidget* owner, Qt::Alignment align) {
     auto* label = new QLabel(owner);
@@ -27,7 +28,7 @@ QLabel* make_label(QWidget* owner, Qt::Alignment align) {
 hintline::hintline(QWidget* parent)
     : QWidget(parent), what(make_label(this, Qt::AlignLeft)), money(make_label(this, Qt::AlignRight)) {
     setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(look);
+    setStyleSheet(in_cabinet_colours(look));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);

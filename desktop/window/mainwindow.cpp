@@ -2,6 +2,7 @@
 
 #include "desktop/session/leaving.h"
 #include "desktop/session/session.h"
+#include "desktop/window/cabinetcolours.h"
 #include "desktop/window/hintline.h"
 #include "desktop/window/keys.h"
 #include "desktop/window/viewmenu.h"
@@ -74,19 +75,19 @@ screenview& mainwindow::board_view() {
 
 // The menu in the colours of the cabinet.
 constexpr const char* menu_style =
-    "QMenuBar { background: #1e0a24; color: #f3e3bd; border-bottom: 1px solid #6e3d06; padding: 2px; }"
+    "QMenuBar { background: @ground; color: @cream; border-bottom: 1px solid @groove; padding: 2px; }"
     "QMenuBar::item { background: transparent; padding: 3px 10px; }"
-    "QMenuBar::item:selected { background: #561a86; color: #fff8e4; border-radius: 4px; }"
-    "QMenu { background: #1e0a24; color: #f3e3bd; border: 1px solid #c98a1e; padding: 4px; }"
+    "QMenuBar::item:selected { background: @violet; color: @ivory; border-radius: 4px; }"
+    "QMenu { background: @ground; color: @cream; border: 1px solid @rim; padding: 4px; }"
     "QMenu::item { padding: 4px 28px 4px 26px; border-radius: 4px; }"
-    "QMenu::item:selected { background: #561a86; color: #fff8e4; }"
-    "QMenu::separator { height: 1px; background: #6e3d06; margin: 4px 8px; }"
-    "QMenu::indicator { width: 10px; height: 10px; left: 8px; border-radius: 5px; border: 1px solid #c98a1e; "
+    "QMenu::item:selected { background: @violet; color: @ivory; }"
+    "QMenu::separator { height: 1px; background: @groove; margin: 4px 8px; }"
+    "QMenu::indicator { width: 10px; height: 10px; left: 8px; border-radius: 5px; border: 1px solid @rim; "
     "}"
-    "QMenu::indicator:checked { background: #f2c14a; }";
+    "QMenu::indicator:checked { background: @gold; }";
 
 void mainwindow::make_menus() {
-    menuBar()->setStyleSheet(menu_style);
+    menuBar()->setStyleSheet(in_cabinet_colours(menu_style));
     QMenu* menu = nullptr;
     std::string_view title;
     QString taken;
