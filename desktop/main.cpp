@@ -21,6 +21,9 @@ constexpr const char* no_display =
     "Hoard Hustle needs a screen to play on, and there is none here.\n"
     "Start it from a desktop session, or set DISPLAY to an X server; over ssh, use ssh -X.\n";
 
+// The toolkit would play in the folder whose name it makes of such bytes.
+bool names_a_folder() { return QUtf8StringView(qgetenv("HUSTLE_DATA")).isValidUtf8(); }
+
 bool has_display() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
@@ -129,6 +132,10 @@ int main(int argc, char** argv) {
     const int status = read_arguments(chosen, argc, argv);
     if (status >= 0)
         return status;
+    if (!names_a_folder()) {
+        std::fputs("hoardhustle: the name of the folder in HUSTLE_DATA is no UTF-8\n", stderr);
+        return 2;
+    }
     if (!has_display()) {
         std::fputs(no_display, stderr);
         return 1;

@@ -9,6 +9,10 @@
 #include <cstdio>
 #include <string>
 
+namespace {
+constexpr int most_pictures = 99'999; // a script may run for days
+} // namespace
+
 int main(int argc, char** argv) {
     if (argc < 3) {
         std::fputs("film SCRIPT FOLDER [WIDTH] [PICTURES A SECOND] [FROM MS] [TO MS] [reduced]\n", stderr);
@@ -35,13 +39,15 @@ int main(int argc, char** argv) {
     int count = 0;
     bool written = true;
     eye.sees = [&](const QImage& picture, const QRegion&, std::int64_t ms) {
-        if (ms < from || ms > to)
+        if (ms < from || ms > to || count == most_pictures)
             return;
         const QString name = QString("%1.png").arg(++count, 5, 10, QChar('0'));
         written = picture.save(folder.filePath(name), nullptr, 90) && written;
     };
     const int status = hustle::desktop::watch_file(eye, argv[1]);
     std::printf("%d pictures\n", count);
+    if (count == most_pictures)
+        std::fputs("film: no more than these; FROM MS begins later\n", stderr);
     if (!written)
         std::fputs("film: a picture could not be written\n", stderr);
     return status != 0 ? status : !written;

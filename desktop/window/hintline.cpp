@@ -13,6 +13,7 @@ namespace {
 
 constexpr int least_height = 26, most_height = 52; // pixels
 constexpr int widths_to_height = 40;               // it grows with the machine above it
+constexpr std::string_view watching = "A script is watched: Right goes one step on";
 constexpr const char* look = "QWidget { background: @ground; }"
                              "QLabel { color: @cream; padding: 0 12px; }";
 
@@ -54,8 +55,8 @@ void hintline::fit() {
     setFixedHeight(high);
 }
 
-void hintline::tell(const game& g) {
-    const std::string_view said = hint(g);
+void hintline::tell(const game& g, bool watched) {
+    const std::string_view said = watched ? watching : hint(g);
     const QString now = QString::fromUtf8(said.data(), static_cast<qsizetype>(said.size()));
     if (now != last) {
         last = now;

@@ -11,7 +11,7 @@ namespace hustle::desktop {
 class hintline : public QWidget {
 public:
     explicit hintline(QWidget* parent);
-    void tell(const game&);
+    void tell(const game&, bool watched); // what can be done while a script is watched is the same all along
     QSize sizeHint() const override;
     static int height_at(int width); // of the line in a window of that width, pixels
 

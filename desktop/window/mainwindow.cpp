@@ -55,7 +55,7 @@ QSize mainwindow::bars(int width) const {
 
 void mainwindow::show_hints() {
     hint->setVisible(played.view.hints);
-    hint->tell(played.g);
+    hint->tell(played.g, played.watched != nullptr);
 }
 
 void mainwindow::repaint_all() {
@@ -157,7 +157,7 @@ void mainwindow::refresh() {
         setWindowTitle(title);
     view->refresh();
     if (played.view.hints)
-        hint->tell(played.g);
+        hint->tell(played.g, played.watched != nullptr);
 }
 
 bool mainwindow::event(QEvent* event) {

@@ -99,6 +99,7 @@ void fill_view_menu(QMenu& menu, mainwindow& window, session& s) {
     QAction* const record = add_switch(menu, s, "Recor&d the Session", &view_settings::recording, [] {});
     QObject::connect(&menu, &QMenu::aboutToShow, record, [&s, record] {
         const bool later = s.view.recording && s.record.file < 0;
+        record->setVisible(s.watched == nullptr); // a script is there already
         record->setText(later ? "Recor&d the Session (from the next start)" : "Recor&d the Session");
     });
 }

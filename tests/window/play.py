@@ -110,6 +110,9 @@ def without_a_display():
             if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
     done = subprocess.run([PROGRAM], env=bare, capture_output=True, text=True, timeout=60)
     assert done.returncode == 1 and "needs a screen" in done.stderr, done.stderr
+    bare["HUSTLE_DATA"] = b"caf\xe9"
+    done = subprocess.run([PROGRAM], env=bare, capture_output=True, text=True, timeout=60)
+    assert done.returncode == 2 and "no UTF-8" in done.stderr, "else it plays in another folder"
 
 
 def everything(display, folder):

@@ -182,6 +182,10 @@ TEST(Session, WatchesAtTheSpeedThatIsChosenAndTellsWhatDoesNotHold) {
         return new QAction(&p.s.wake); // none such
     };
     EXPECT_TRUE(entry("1 x")->isChecked());
+    QStringList lines;
+    for (const QLabel* line : p.s.window->findChildren<QLabel*>())
+        lines += line->text();
+    EXPECT_TRUE(lines.contains("A script is watched: Right goes one step on")) << "and not how to play";
     for (const auto& [text, speed] :
          {std::pair{"20 x", 20.0}, {"4 x", 4.0}, {"0.25 x", 0.25}, {"Still", 0.0}}) {
         entry(text)->trigger();
