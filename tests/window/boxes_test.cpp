@@ -205,6 +205,10 @@ TEST(Session, TellsOfItsSystem) {
         if (button->text() == "&Copy")
             button->click();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), words->text());
+    for (QPushButton* const button : box->findChildren<QPushButton*>())
+        if (button->text() == "Close")
+            button->click();
+    EXPECT_FALSE(box->isVisible());
     expect_gone_after(box);
 }
 

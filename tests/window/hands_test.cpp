@@ -273,6 +273,9 @@ TEST(Hands, AWindowComesUpInTheMiddleAndAFormOverIt) {
     refresh(h.s);
     window.move(room.right() - 100, room.bottom() - 80);
     EXPECT_TRUE(room.contains(h.open(screen::About).geometry())) << "a form is never half away";
+    screenview first(h.s, screen::About);
+    place_side_window(first, nullptr);
+    EXPECT_EQ(first.size(), first.panel_size()) << "there is no other window to be like";
     window.showMaximized();
     zoom_main_window(window, 0.5);
     EXPECT_FALSE(window.isMaximized());

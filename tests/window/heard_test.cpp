@@ -1,5 +1,6 @@
 // What the sound thread and the session ask of the mixer, told by one that only notes it.
 #include "desktop/platform/sound.h"
+#include "desktop/session/watch.h"
 #include "tests/window/program.h"
 
 #include <gtest/gtest.h>
@@ -76,6 +77,21 @@ TEST(Sound, OfASessionIsTheMachinesAtThePlayersVolume) {
     p.until([&] { return e.hears("volume 0"); });
     end_session(p.s);
     EXPECT_TRUE(e.hears("close 0"));
+}
+
+TEST(Sound, OfAWatchedScriptIsHeard) {
+    const ear e;
+    program p;
+    p.s.world.saving = false;
+    open_session(p.s);
+    watching w;
+    w.text = "seed 1\npress main.start\nrun 3000\n";
+    w.speed = 20;
+    start_watching(p.s, w);
+    const std::string wave = "wave " + std::to_string(static_cast<int>(sound::reelstop));
+    p.until([&] { return e.hears(wave) || p.s.real.elapsed() > 10'000; });
+    EXPECT_TRUE(e.hears(wave)) << e.heard();
+    stop_watching(w);
 }
 
 } // namespace

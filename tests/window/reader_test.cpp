@@ -91,6 +91,41 @@ TEST(View, AKeyboardAndAScreenReaderFindWhatAMouseDoes) {
     EXPECT_TRUE(start->hasFocus()) << "it comes back";
 }
 
+// A reader would say each of them.
+TEST(View, ALineIsReadOutOnceItStandsStill) {
+    program p;
+    p.start();
+    screenview& view = p.s.window->main_view();
+    p.until([&] { return !view.findChildren<QPushButton*>().isEmpty(); });
+    QLabel* line = nullptr;
+    for (QLabel* l : view.findChildren<QLabel*>())
+        if (l->geometry() == view.widget_rect(element::displayline))
+            line = l;
+    ASSERT_NE(line, nullptr);
+    ++p.s.held; // the line changes by our hand alone
+    QElapsedTimer between;
+    qint64 longest = 0;
+    QStringList read;
+    const auto put = [&](const std::string& text) {
+        at(p.s.g.p, element::displayline).text = text;
+        at(p.s.g.p, element::displayline).touched = true;
+        refresh(p.s);
+        longest = between.isValid() ? std::max(longest, between.elapsed()) : 0;
+        between.start();
+    };
+    for (int i = 0; i < 24; ++i) {
+        put("NUMBER " + std::to_string(i));
+        QTest::qWait(50);
+        read << line->accessibleName();
+    }
+    put("STILL");
+    p.until([&] { return line->accessibleName().contains("STILL"); });
+    if (longest < 450) {
+        EXPECT_TRUE(read.filter("NUMBER").isEmpty()) << read.join(" ").toStdString();
+    }
+    --p.s.held;
+}
+
 TEST(View, TheBoardIsReadOutAsMainIs) {
     program p;
     p.start();

@@ -209,6 +209,7 @@ TEST(Session, WatchesAtTheSpeedThatIsChosenAndTellsWhatDoesNotHold) {
     EXPECT_LT(w.told->x() + w.told->sizeHint().width(), p.s.window->width()) << "else it is not shown at all";
     EXPECT_EQ(w.told->textFormat(), Qt::PlainText);
     stop_watching(w);
+    EXPECT_FALSE(w.worker.joinable()) << "what it wrote can be read now";
 }
 
 TEST(Session, ShowsAWatchedScriptStepByStepAndFast) {
