@@ -222,6 +222,15 @@ TEST(Session, TellsAmountsAsThePlayersCountryDoes) {
         EXPECT_FALSE(plays_in_pounds(abroad)) << abroad.name().toStdString();
 }
 
+TEST(Session, DrawsItsOwnChanceWhereNoSeedIsGiven) {
+    program p;
+    qtworld other;
+    qunsetenv("HUSTLE_SEED");
+    prepare_world(p.s.world);
+    prepare_world(other);
+    EXPECT_NE(p.s.world.state, other.state);
+}
+
 TEST(Session, FindsItsFolders) {
     const program p;
     const QString beside = QCoreApplication::applicationDirPath();

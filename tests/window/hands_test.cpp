@@ -219,6 +219,15 @@ TEST(Hands, AllPicturesThatWillBeWantedAreDrawnAhead) {
     unload_screen(h.s.g, screen::feature);
 }
 
+TEST(Hands, TheBoardsBackdropIsDrawnAheadAsItWillStand) {
+    hands h;
+    backdrop_store ahead;
+    EXPECT_TRUE(prepare_backdrop(ahead, h.s.g.p, screen::feature, 1));
+    h.open(screen::feature);
+    EXPECT_FALSE(prepare_backdrop(ahead, h.s.g.p, screen::feature, 1)) << "it is drawn a second time";
+    unload_screen(h.s.g, screen::feature);
+}
+
 TEST(Hands, TheIconIsSharpInEachUsualSize) {
     for (const int size : {16, 32, 48, 128})
         EXPECT_TRUE(program_icon().availableSizes().contains(QSize(size, size))) << size;
