@@ -54,6 +54,16 @@ TEST_F(Motions, AReelSpeedsUpAndBlursAsFastAsItGoes) {
     EXPECT_EQ(r.blur, 16) << "one even smear";
 }
 
+TEST_F(Motions, AReelThatIsPutOnAStopIsSharp) {
+    roll(timer::reelspin1, 200);
+    stop_timer(g.p, timer::reelspin1);
+    set_picture(g.p, element::reel1, art::none);
+    take_in_reel(s, g, 1, now);
+    write_stop(3);
+    EXPECT_EQ(s.reels[0].now, phase::rests);
+    EXPECT_EQ(s.reels[0].blur, 0);
+}
+
 TEST_F(Motions, AReelRollsByEachOfItsChainsAndStandsWhereNoneRuns) {
     for (const timer behind : reel_timers)
         for (int frame = 1; frame <= 4; ++frame) {

@@ -190,6 +190,19 @@ TEST(Hands, TheBoardTakesMainsPlaceAndGivesItBack) {
               h.s.g.p.titles[static_cast<std::size_t>(screen::main)]);
 }
 
+TEST(Hands, TheReelsRollAsSoonAsStartIsPressed) {
+    program p;
+    p.start();
+    send(p.s, {input::kind::press, screen::main, element::start});
+    std::set<double> places;
+    p.until([&] {
+        if (p.s.show.reels[0].now == reel_motion::phase::rolls)
+            places.insert(p.s.show.reels[0].at);
+        return is_enabled(p.s.g.p, element::start);
+    });
+    EXPECT_GT(places.size(), 5U) << "they stand still until they stop";
+}
+
 // So that the first spin and the first board do not stutter: each picture once, one at a time.
 TEST(Hands, AllPicturesThatWillBeWantedAreDrawnAhead) {
     hands h;
