@@ -16,6 +16,13 @@
 
 namespace hustle::desktop {
 
+struct paint_counter : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        return count += event->type() == QEvent::Paint, false;
+    }
+};
+
 // A program of its own: its folder, its session, started until main is on the screen.
 struct program {
     QTemporaryDir folder;

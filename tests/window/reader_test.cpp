@@ -19,13 +19,6 @@ namespace hustle::desktop {
 
 namespace {
 
-struct paint_counter : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override {
-        return count += event->type() == QEvent::Paint, false;
-    }
-};
-
 // A white line between two dark ones, seen on any ground; round at its corners.
 void has_a_ring(const QImage& image) {
     if (image.devicePixelRatio() != 1)

@@ -255,6 +255,20 @@ TEST(Seen, AButtonGoesDownUnderTheMouseAndComesUp) {
     QTest::mouseRelease(&view, Qt::LeftButton, {}, middle);
     EXPECT_TRUE(w.comes_whole());
     EXPECT_EQ(w.on_screen(), up);
+    load_screen(w.s.g, screen::About);
+    w.settle(300);
+    screenview* const form = w.s.side[static_cast<std::size_t>(screen::About)];
+    ASSERT_NE(form, nullptr);
+    for (const element_row& r : elements_of(screen::About))
+        if (r.what == kind::push) {
+            paint_counter painted;
+            form->installEventFilter(&painted);
+            QTest::mousePress(form, Qt::LeftButton, {}, form->widget_rect(r.id).center());
+            w.settle(100);
+            EXPECT_GT(painted.count, 0) << r.name << " acts when it comes up, and shows that it is down";
+            QTest::mouseRelease(form, Qt::LeftButton, {}, QPoint());
+        }
+    unload_screen(w.s.g, screen::About);
 }
 
 TEST(Seen, EachLampAndLineChangesItsOwnPlaceAlone) {

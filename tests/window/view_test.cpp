@@ -113,6 +113,8 @@ TEST(View, EntriesOfItDoAsTheySay) {
         EXPECT_EQ(ticked("Blue LED"), colour == "Blue LED");
         EXPECT_EQ(ticked("Red LED"), colour == "Red LED");
     }
+    for (const int percent : {50, 75, 100, 125, 150, 200, 300})
+        take(QString("%1 %").arg(percent));
     take("50 %");
     EXPECT_EQ(p.s.window->main_view().width(), p.s.window->main_view().panel_size().width() / 2);
     p.s.window->resize(1, 1);
