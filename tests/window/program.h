@@ -4,6 +4,7 @@
 #include "desktop/platform/stablefile.h"
 #include "desktop/session/session.h"
 #include "desktop/window/mainwindow.h"
+#include "panel/sheet.h"
 
 #include <gtest/gtest.h>
 
@@ -59,6 +60,10 @@ struct program {
         if (box == nullptr)
             return;
         is_fit_for_all(*box);
+        for (const element_row& r : elements_of(screen::main))
+            EXPECT_TRUE(s.window == nullptr || !s.window->main_view().isVisible() || r.what == kind::entry ||
+                        !at(s.g.p, r.id).touched)
+                << box->text().toStdString() << " stands before an old look of " << r.name;
         told << box->text();
         costs << box->informativeText();
         recorded = stored("session.txt");
