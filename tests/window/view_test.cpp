@@ -113,8 +113,12 @@ TEST(View, EntriesOfItDoAsTheySay) {
         EXPECT_EQ(ticked("Blue LED"), colour == "Blue LED");
         EXPECT_EQ(ticked("Red LED"), colour == "Red LED");
     }
-    for (const int percent : {50, 75, 100, 125, 150, 200, 300})
-        take(QString("%1 %").arg(percent));
+    QStringList steps;
+    for (const QMenu* menu : p.s.window->findChildren<QMenu*>())
+        if (menu->title() == "&Zoom")
+            for (const QAction* step : menu->actions())
+                steps += step->text();
+    EXPECT_EQ(steps.join(' '), "50 % 75 % 100 % 125 % 150 % 200 % 300 %  &Larger &Smaller");
     take("50 %");
     EXPECT_EQ(p.s.window->main_view().width(), p.s.window->main_view().panel_size().width() / 2);
     p.s.window->resize(1, 1);
