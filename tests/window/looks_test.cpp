@@ -104,6 +104,24 @@ int difference(QRgb a, QRgb b) {
         {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
 }
 
+// In coarser fields, since letters and edges fall a little otherwise.
+TEST(Looks, AreTheSameAtTwiceTheSize) {
+    constexpr int few = across / 2;
+    testgame b;
+    b.run(650);
+    const auto fields = [&](screen s, int width) {
+        return painted(b.g, s, width).scaled(few, few, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    for (const screen_row& r : screen_rows()) {
+        load_screen(b.g, r.id);
+        const QImage once = fields(r.id, r.width / 15), twice = fields(r.id, r.width / 15 * 2);
+        int most = 0;
+        for (int i = 0; i < few * few; ++i)
+            most = std::max(most, difference(once.pixel(i % few, i / few), twice.pixel(i % few, i / few)));
+        EXPECT_LE(most, r.id == screen::Highscore ? 40 : 16) << r.name; // whose dots take whole pixels
+    }
+}
+
 TEST(Looks, AreThoseThatWereKept) {
     const std::vector<look> all = all_looks();
     QImage now(across * frames, down * static_cast<int>(all.size()), QImage::Format_RGB32);

@@ -17,6 +17,7 @@
 
 namespace hustle::desktop {
 
+// How often what it is installed on was painted.
 struct paint_counter : QObject {
     int count = 0;
     bool eventFilter(QObject*, QEvent* event) override {
@@ -55,15 +56,18 @@ struct program {
         const QAbstractButton* const preferred = box.defaultButton();
         EXPECT_TRUE(no == nullptr || (box.escapeButton() == no && preferred == no));
     }
+    void is_painted_behind(const QMessageBox& box) const {
+        for (const element_row& r : elements_of(screen::main))
+            EXPECT_TRUE(r.what == kind::entry || !at(s.g.p, r.id).touched)
+                << box.text().toStdString() << " stands before an old look of " << r.name;
+    }
     void answer() {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr)
             return;
         is_fit_for_all(*box);
-        for (const element_row& r : elements_of(screen::main))
-            EXPECT_TRUE(s.window == nullptr || !s.window->main_view().isVisible() || r.what == kind::entry ||
-                        !at(s.g.p, r.id).touched)
-                << box->text().toStdString() << " stands before an old look of " << r.name;
+        if (s.window != nullptr && s.window->main_view().isVisible())
+            is_painted_behind(*box);
         told << box->text();
         costs << box->informativeText();
         recorded = stored("session.txt");

@@ -6,7 +6,6 @@
 #include "panel/sheet.h"
 #include "script/commands.h"
 #include "script/reading.h"
-#include "tests/testgame.h"
 #include "tests/window/program.h"
 #include "trail/trail.h"
 
@@ -207,27 +206,6 @@ TEST(Seen, TheWindowPaintsWhatAStillPictureShows) {
         EXPECT_EQ(unlike, 0) << row(where).name;
     }
     unload_screen(w.s.g, screen::feature);
-}
-
-// Field by field; letters and edges fall a little otherwise.
-TEST(Seen, AScreenAtTwiceTheSizeShowsTheSame) {
-    testgame b;
-    b.run(650);
-    const auto fields = [](const QImage& picture) {
-        return picture.scaled(16, 12, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    };
-    for (const screen_row& r : screen_rows()) {
-        load_screen(b.g, r.id);
-        const int width = r.width / 15;
-        const QImage once = fields(painted(b.g, r.id, width)), twice = fields(painted(b.g, r.id, 2 * width));
-        int most = 0;
-        for (int i = 0; i < 16 * 12; ++i) {
-            const QColor a = once.pixelColor(i % 16, i / 16), c = twice.pixelColor(i % 16, i / 16);
-            most = std::max({most, std::abs(a.red() - c.red()), std::abs(a.green() - c.green()),
-                             std::abs(a.blue() - c.blue())});
-        }
-        EXPECT_LE(most, r.id == screen::Highscore ? 40 : 8) << r.name; // whose dots take whole pixels
-    }
 }
 
 TEST(Seen, AWinGlowsAndLetsCoinsRise) {
